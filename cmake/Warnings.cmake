@@ -1,0 +1,11 @@
+# Warning flags for every target the project compiles.
+function(spacemgm_warnings target)
+  get_target_property(type ${target} TYPE)
+  if(type STREQUAL "INTERFACE_LIBRARY")
+    return()
+  endif()
+  target_compile_options(${target} PRIVATE -Wall -Wextra)
+  if(SPACEMGM_WERROR)
+    target_compile_options(${target} PRIVATE -Werror)
+  endif()
+endfunction()
