@@ -1,0 +1,226 @@
+// The operation events with which the client's modules describe what a user
+// does. Ids run as one chain over the five tables, from -1 to 204; each
+// constant is named after its enumeration and id.
+#pragma once
+
+#include "foundation/enum_types.h"
+
+// clang-format off
+
+// OperateBasicEventType
+extern const OperateBasicEventType kOperateBasicEventTypeMinus1;
+extern const OperateBasicEventType kOperateBasicEventType0; // 程序启动
+extern const OperateBasicEventType kOperateBasicEventType1; // 用户登录
+extern const OperateBasicEventType kOperateBasicEventType2; // 客户端最大化
+extern const OperateBasicEventType kOperateBasicEventType3; // 客户端还原
+extern const OperateBasicEventType kOperateBasicEventType4; // 打开设置
+extern const OperateBasicEventType kOperateBasicEventType5; // 打开关于
+extern const OperateBasicEventType kOperateBasicEventType6; // 打开问题反馈
+extern const OperateBasicEventType kOperateBasicEventType7; // 打开传输管理
+extern const OperateBasicEventType kOperateBasicEventType8; // 提交反馈
+extern const OperateBasicEventType kOperateBasicEventType9; // 开始/暂停全部下载
+extern const OperateBasicEventType kOperateBasicEventType10; // 取消全部下载
+extern const OperateBasicEventType kOperateBasicEventType11; // 开始/暂停下载任务
+extern const OperateBasicEventType kOperateBasicEventType12; // 取消下载任务
+extern const OperateBasicEventType kOperateBasicEventType13; // 清空记录
+extern const OperateBasicEventType kOperateBasicEventType14; // 打开所在文件夹
+extern const OperateBasicEventType kOperateBasicEventType15; // 清除下载记录
+extern const OperateBasicEventType kOperateBasicEventType16; // 收起上传管理
+extern const OperateBasicEventType kOperateBasicEventType17; // 开始/暂停全部上传
+extern const OperateBasicEventType kOperateBasicEventType18; // 取消全部上传
+extern const OperateBasicEventType kOperateBasicEventType19; // 开始/暂停上传
+extern const OperateBasicEventType kOperateBasicEventType20; // 取消上传
+extern const OperateBasicEventType kOperateBasicEventType21; // 检测更新
+extern const OperateBasicEventType kOperateBasicEventType22; // 重置数据库
+extern const OperateBasicEventType kOperateBasicEventType23; // 语言切换
+extern const OperateBasicEventType kOperateBasicEventType24; // 进入联系人
+extern const OperateBasicEventType kOperateBasicEventType25; // 联系人导出
+extern const OperateBasicEventType kOperateBasicEventType26; // 进入备忘录
+extern const OperateBasicEventType kOperateBasicEventType27; // 进入录音
+extern const OperateBasicEventType kOperateBasicEventType28; // 录音下载
+extern const OperateBasicEventType kOperateBasicEventType29; // 录音播放
+extern const OperateBasicEventType kOperateBasicEventType30; // 录音播放结束
+extern const OperateBasicEventType kOperateBasicEventType31; // 录音播放暂停
+extern const OperateBasicEventType kOperateBasicEventType32; // 录音播放恢复
+extern const OperateBasicEventType kOperateBasicEventType33; // 进入云盘
+extern const OperateBasicEventType kOperateBasicEventType34; // 上传文件
+extern const OperateBasicEventType kOperateBasicEventType35; // 上传文件夹
+extern const OperateBasicEventType kOperateBasicEventType36; // 下载文件
+extern const OperateBasicEventType kOperateBasicEventType37; // 下载文件夹
+extern const OperateBasicEventType kOperateBasicEventType38; // 进入查找手机
+extern const OperateBasicEventType kOperateBasicEventType39; // 进入图库
+extern const OperateBasicEventType kOperateBasicEventType40; // 图库加载完成
+extern const OperateBasicEventType kOperateBasicEventType41; // 新建相册
+extern const OperateBasicEventType kOperateBasicEventType42; // 相册重命名
+extern const OperateBasicEventType kOperateBasicEventType43; // 删除相册
+extern const OperateBasicEventType kOperateBasicEventType44; // 回收站图片恢复
+extern const OperateBasicEventType kOperateBasicEventType45; // 回收站图片删除
+extern const OperateBasicEventType kOperateBasicEventType46; // 回收站清空
+extern const OperateBasicEventType kOperateBasicEventType47; // 大图加载完成
+extern const OperateBasicEventType kOperateBasicEventType48; // 图片收藏/取消收藏
+extern const OperateBasicEventType kOperateBasicEventType49; // 图片旋转
+extern const OperateBasicEventType kOperateBasicEventType50; // 图片属性查看
+extern const OperateBasicEventType kOperateBasicEventType51; // 图片选中切换
+extern const OperateBasicEventType kOperateBasicEventType52; // 图库上传
+extern const OperateBasicEventType kOperateBasicEventType53; // 图库下载
+extern const OperateBasicEventType kOperateBasicEventType54; // 图片移动
+extern const OperateBasicEventType kOperateBasicEventType55; // 图片删除
+extern const OperateBasicEventType kOperateBasicEventType56; // 布局缩放
+extern const OperateBasicEventType kOperateBasicEventType57; // 布局缩放最大
+extern const OperateBasicEventType kOperateBasicEventType58; // 布局缩放最小
+extern const OperateBasicEventType kOperateBasicEventType59; // 图库选择日期
+extern const OperateBasicEventType kOperateBasicEventType60; // 选择日期下所有图片
+extern const OperateBasicEventType kOperateBasicEventType61; // 取消选择日期下所有图片
+extern const OperateBasicEventType kOperateBasicEventType62; // 取消选择
+extern const OperateBasicEventType kOperateBasicEventType63; // 页面滚动
+extern const OperateBasicEventType kOperateBasicEventType64; // 视频播放
+extern const OperateBasicEventType kOperateBasicEventType65; // 视频暂停
+extern const OperateBasicEventType kOperateBasicEventType66; // 视频恢复
+extern const OperateBasicEventType kOperateBasicEventType67; // 视频结束
+extern const OperateBasicEventType kOperateBasicEventType68; // 视频播放时长
+extern const OperateBasicEventType kOperateBasicEventType69; // 打开空间管理
+extern const OperateBasicEventType kOperateBasicEventType70; // 删除备份
+extern const OperateBasicEventType kOperateBasicEventType71; // 全部删除
+extern const OperateBasicEventType kOperateBasicEventType72; // 取消/关闭升级
+extern const OperateBasicEventType kOperateBasicEventType73; // 继续安装
+extern const OperateBasicEventType kOperateBasicEventType74; // 立即升级
+extern const OperateBasicEventType kOperateBasicEventType75; // 开始安装
+extern const OperateBasicEventType kOperateBasicEventType76; // 覆盖安装
+extern const OperateBasicEventType kOperateBasicEventType77; // 结束/关闭
+extern const OperateBasicEventType kOperateBasicEventType78; // 升级安装
+extern const OperateBasicEventType kOperateBasicEventType79; // 更改位置
+extern const OperateBasicEventType kOperateBasicEventType80; // 选择我的文档添加到云盘文件夹
+extern const OperateBasicEventType kOperateBasicEventType81; // 选择桌面添加到云盘文件夹
+extern const OperateBasicEventType kOperateBasicEventType82; // 立即开启
+extern const OperateBasicEventType kOperateBasicEventType83; // 稍后在设置中开启
+extern const OperateBasicEventType kOperateBasicEventType84; // 打开泽芙拉云盘
+extern const OperateBasicEventType kOperateBasicEventType85; // 稍后前往
+extern const OperateBasicEventType kOperateBasicEventType86; // 更改位置
+extern const OperateBasicEventType kOperateBasicEventType87; // 选择我的文档添加到云盘文件夹
+extern const OperateBasicEventType kOperateBasicEventType88; // 选择桌面添加到云盘文件夹
+extern const OperateBasicEventType kOperateBasicEventType89; // 确定关闭云盘文件夹
+extern const OperateBasicEventType kOperateBasicEventType90; // 确定取消桌面/文档同步
+extern const OperateBasicEventType kOperateBasicEventType91; // 同步盘状态
+extern const OperateBasicEventType kOperateBasicEventType92; // 开启云盘文件夹
+extern const OperateBasicEventType kOperateBasicEventType93; // 打开云盘文件夹
+extern const OperateBasicEventType kOperateBasicEventType94; // 进入支付入口
+extern const OperateBasicEventType kOperateBasicEventType95; // 退出支付
+extern const OperateBasicEventType kOperateBasicEventType96; // 退出客户端弹框
+extern const OperateBasicEventType kOperateBasicEventType97; // 确认退出客户端
+extern const OperateBasicEventType kOperateBasicEventType98; // 退出客户端有未完成传输任务弹框
+extern const OperateBasicEventType kOperateBasicEventType99; // 有未完成传输任务确认退出客户端
+extern const OperateBasicEventType kOperateBasicEventType100; // 切换账号有未完成传输任务弹框
+extern const OperateBasicEventType kOperateBasicEventType101; // 确认切换账号
+extern const OperateBasicEventType kOperateBasicEventType102; // 切换账号弹框
+extern const OperateBasicEventType kOperateBasicEventType103; // 确认切换账号
+extern const OperateBasicEventType kOperateBasicEventType104; // 提示登录账户与Klubam不同
+extern const OperateBasicEventType kOperateBasicEventType105; // 通过Klubam登录成功
+extern const OperateBasicEventType kOperateBasicEventType106; // 访问首页
+extern const OperateBasicEventType kOperateBasicEventType107; // 右键拉起托盘
+extern const OperateBasicEventType kOperateBasicEventType108; // 通过桌面快捷方式启动客户端
+extern const OperateBasicEventType kOperateBasicEventType109; // 通过开始菜单启动客户端
+extern const OperateBasicEventType kOperateBasicEventType110; // 开机自启动
+extern const OperateBasicEventType kOperateBasicEventType111; // 设备预装
+extern const OperateBasicEventType kOperateBasicEventType112; // 登录帐号
+extern const OperateBasicEventType kOperateBasicEventType113; // 显示托盘
+extern const OperateBasicEventType kOperateBasicEventType114; // 不显示托盘
+extern const OperateBasicEventType kOperateBasicEventType115; // 视频播放失败
+extern const OperateBasicEventType kOperateBasicEventType116; // 安装失败
+extern const OperateBasicEventType kOperateBasicEventType117; // 卸载失败
+extern const OperateBasicEventType kOperateBasicEventType118; // 更改同步盘路径失败
+extern const OperateBasicEventType kOperateBasicEventType119; // 资源管理器状态条，未登录时，点击立即登录
+extern const OperateBasicEventType kOperateBasicEventType120; // 新建相册失败
+extern const OperateBasicEventType kOperateBasicEventType121; // LCD图加载失败
+extern const OperateBasicEventType kOperateBasicEventType122; // 自动开启未完成的传输任务
+
+// OperateFileTranslateEventType
+extern const OperateFileTranslateEventType kOperateFileTranslateEventType123; // 下载完成
+extern const OperateFileTranslateEventType kOperateFileTranslateEventType124; // 上传完成
+extern const OperateFileTranslateEventType kOperateFileTranslateEventType125; // 下载失败
+extern const OperateFileTranslateEventType kOperateFileTranslateEventType126; // 上传失败
+extern const OperateFileTranslateEventType kOperateFileTranslateEventType127; // 图库上传失败
+extern const OperateFileTranslateEventType kOperateFileTranslateEventType128; // 图库下载失败
+extern const OperateFileTranslateEventType kOperateFileTranslateEventType129; // 元数据同步上行失败
+extern const OperateFileTranslateEventType kOperateFileTranslateEventType130; // 元数据同步下行失败
+extern const OperateFileTranslateEventType kOperateFileTranslateEventType131; // 缩略图加载失败
+
+// OperateSwitchPageEventType
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType132; // 前往云空间网站
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType133; // 打开在线帮助
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType134; // 打开我的泽芙拉账号
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType135; // 打开导航页
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType136; // 正在下载
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType137; // 完成列表
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType138; // 显示上传管理
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType139; // 常规
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType140; // 网络
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType141; // 其他
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType142; // 泽芙拉云盘
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType143; // 所有照片
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType144; // 最近上传
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType145; // 访问系统相册
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType146; // 访问用户相册
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType147; // 图片详情
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType148; // 图片详情返回
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType149; // 图片全屏
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType150; // 图片还原
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType151; // 连拍
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType152; // 连拍返回
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType153; // 打开官方网站
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType154; // 打开官方论坛
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType155; // 联系我们
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType156; // 打开泽芙拉云空间用户协议
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType157; // 打开关于泽芙拉云空间隐私声明
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType158; // 空间管理_云备份
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType159; // 空间管理_图库
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType160; // 空间管理_云盘
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType161; // 空间管理_备忘录
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType162; // 空间管理_录音
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType163; // 空间管理_骚扰拦截
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType164; // 空间管理_联系人
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType165; // 空间管理_WLAN
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType166; // 空间管理_浏览器
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType167; // 空间管理_日历
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType168; // 空间管理_信息
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType169; // 空间管理_通话记录
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType170; // 空间管理_其他
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType171; // 空间不足弹框
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType172; // 资源管理器状态条，点击升级
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType173; // 资源管理器状态条，点击更多_帮助与客服
+extern const OperateSwitchPageEventType kOperateSwitchPageEventType174; // 资源管理器状态条，点击最近删除
+
+// OperateSwitchModuleEventType
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType175; // 离开首页
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType176; // 取消和关闭反馈
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType177; // 关闭下载管理
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType178; // 关闭上传管理
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType179; // 确认设置
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType180; // 取消和关闭设置
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType181; // 离开联系人
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType182; // 离开备忘录
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType183; // 离开录音
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType184; // 离开云盘
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType185; // 离开查找手机
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType186; // 离开图库
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType187; // 离开关于
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType188; // 前往目标管理模块
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType189; // 离开空间管理
+extern const OperateSwitchModuleEventType kOperateSwitchModuleEventType190; // 立即体验
+
+// OperateSpecialEventType
+extern const OperateSpecialEventType kOperateSpecialEventType191; // 客户端注销
+extern const OperateSpecialEventType kOperateSpecialEventType192; // 客户端退出
+extern const OperateSpecialEventType kOperateSpecialEventType193; // 客户端最小化
+extern const OperateSpecialEventType kOperateSpecialEventType194; // 开机自启设置
+extern const OperateSpecialEventType kOperateSpecialEventType195; // 自动检查更新设置
+extern const OperateSpecialEventType kOperateSpecialEventType196; // 同时上传任务数修改
+extern const OperateSpecialEventType kOperateSpecialEventType197; // 同时下载任务数修改
+extern const OperateSpecialEventType kOperateSpecialEventType198; // 修改缓存路径
+extern const OperateSpecialEventType kOperateSpecialEventType199; // 修改文件存储路径
+extern const OperateSpecialEventType kOperateSpecialEventType200; // 退出时删除本地缓存
+extern const OperateSpecialEventType kOperateSpecialEventType201; // 批量选择
+extern const OperateSpecialEventType kOperateSpecialEventType202; // 开启/关闭泽芙拉云盘
+extern const OperateSpecialEventType kOperateSpecialEventType203; // 取消桌面/文档同步
+extern const OperateSpecialEventType kOperateSpecialEventType204; // 关闭云盘文件夹弹框
+
+// clang-format on
