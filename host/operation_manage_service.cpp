@@ -1,0 +1,91 @@
+// The operations configuration of the stand-alone host: "SpaceOMConfig.json"
+// is downloaded from `services.omConfig` into the data folder. The new file
+// is written beside the old one, flushed to disk and renamed over it, so a
+// reader sees either the old file or the new one, never a part.
+#include "platform/operation_manage_service.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+#include "foundation/utilities.h"
+#include "host/host_config.h"
+#include "platform/any_basic_http_lib_context.h"
+#include "platform/any_basic_http_lib_strategy.h"
+#include "platform/user_auth_service.h"
+
+namespace {
+
+bool WriteAll(int fd, const std::string& data)
+{
+    size_t written = 0;
+    while (written < data.size()) {
+        const ssize_t n = ::write(fd, data.data() + written, data.size() - written);
+        if (n < 0) {
+            if (errno == EINTR) {
+                continue;
+            }
+            return false;
+        }
+        written += static_cast<size_t>(n);
+    }
+    return true;
+}
+
+bool ReplaceAtomically(const std::filesystem::path& target, const std::string& data)
+{
+    std::error_code error;
+    std::filesystem::create_directories(target.parent_path(), error);
+    std::string temp = target.string() + ".XXXXXX";
+    const int fd = ::mkstemp(temp.data());
+    if (fd < 0) {
+        return false;
+    }
+    const bool written = WriteAll(fd, data) && ::fsync(fd) == 0;
+    const bool closed = ::close(fd) == 0;
+    if (!written || !closed || std::rename(temp.c_str(), target.c_str()) != 0) {
+        ::unlink(temp.c_str());
+        return false;
+    }
+    // The rename itself reaches the disk with the folder's entry.
+    const int dirFd = ::open(target.parent_path().c_str(), O_RDONLY | O_DIRECTORY);
+    if (dirFd >= 0) {
+        ::fsync(dirFd);
+        ::close(dirFd);
+    }
+    return true;
+}
+
+} // namespace
+
+COperationManageService* COperationManageService::GetInstance()
+{
+    static COperationManageService instance;
+    return &instance;
+}
+
+bool COperationManageService::GetSpaceOMConfig()
+{
+    const host::HostConfig& config = host::CurrentHostConfig();
+    if (config.services.omConfig.empty() || config.dataDir.empty()) {
+        return false;
+    }
+    AnyBasicHttpLibStrategy strategy;
+    strategy.SetUrl(config.services.omConfig);
+    strategy.SetHttpRequestMethod(0);
+    strategy.SetLogFunction([](const std::string&) {});
+    const UserAuthService* auth = UserAuthService::GetInstance();
+    strategy.SetHeaders({{"Authorization", "Bearer " + WideToUtf8(auth->GetCurrentAT())},
+                         {"uid", WideToUtf8(auth->GetCurrentUserID())}});
+    AnyCurlHttpLibContext context(strategy);
+    std::string body;
+    if (context.Request(body) != 200) {
+        // The previous file, or none, stays in place.
+        return false;
+    }
+    return ReplaceAtomically(std::filesystem::path(config.dataDir) / "SpaceOMConfig.json", body);
+}

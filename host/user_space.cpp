@@ -1,0 +1,79 @@
+// The account quota of the stand-alone host: one GET to the address
+// `services.accountQuota`, answered with a JSON object of byte counts.
+#include "platform/user_space.h"
+
+#include <json/json.h>
+
+#include <memory>
+#include <string>
+
+#include "foundation/utilities.h"
+#include "host/host_config.h"
+#include "platform/any_basic_http_lib_context.h"
+#include "platform/any_basic_http_lib_strategy.h"
+#include "platform/user_auth_service.h"
+
+namespace NS {
+namespace Drive {
+
+namespace {
+
+bool ReadBytes(const Json::Value& reply, const char* key, uint64_t& out)
+{
+    const Json::Value& value = reply[key];
+    if (value.isUInt64()) {
+        out = value.asUInt64();
+        return true;
+    }
+    return false;
+}
+
+bool ParseQuotaReply(const std::string& body, UserSpaceInfo& info)
+{
+    Json::CharReaderBuilder builder;
+    std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+    Json::Value reply;
+    if (body.empty() || !reader->parse(body.data(), body.data() + body.size(), &reply, nullptr) ||
+        !reply.isObject()) {
+        return false;
+    }
+    UserSpaceInfo parsed;
+    // "used" and "total" are required; a group the service leaves out is 0.
+    if (!ReadBytes(reply, "used", parsed.used) || !ReadBytes(reply, "total", parsed.total)) {
+        return false;
+    }
+    ReadBytes(reply, "backup", parsed.backup);
+    ReadBytes(reply, "drive", parsed.drive);
+    ReadBytes(reply, "photos", parsed.photos);
+    ReadBytes(reply, "other", parsed.other);
+    ReadBytes(reply, "family", parsed.family);
+    info = parsed;
+    return true;
+}
+
+} // namespace
+
+bool UserSpace::QueryUserSpace(UserSpaceInfo& info, bool /*force*/)
+{
+    const std::string url = host::CurrentHostConfig().services.accountQuota;
+    if (url.empty()) {
+        return false;
+    }
+    AnyBasicHttpLibStrategy strategy;
+    strategy.SetUrl(url);
+    strategy.SetHttpRequestMethod(0);
+    strategy.SetLogFunction([](const std::string&) {});
+    const UserAuthService* auth = UserAuthService::GetInstance();
+    strategy.SetHeaders({{"Authorization", "Bearer " + WideToUtf8(auth->GetCurrentAT())},
+                         {"uid", WideToUtf8(auth->GetCurrentUserID())}});
+    AnyCurlHttpLibContext context(strategy);
+    std::string body;
+    const int status = context.Request(body);
+    if (status != 200) {
+        return false;
+    }
+    return ParseQuotaReply(body, info);
+}
+
+} // namespace Drive
+} // namespace NS
