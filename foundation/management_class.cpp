@@ -1,0 +1,99 @@
+// The management query on Linux. The kernel exports the SMBIOS product
+// record as files under /sys/class/dmi/id; that record is the one row of
+// "Win32_ComputerSystemProduct".
+#include "foundation/device_identity.h"
+
+#include <algorithm>
+#include <cwctype>
+#include <fstream>
+#include <iterator>
+
+#include "foundation/utilities.h"
+
+namespace {
+
+const wchar_t kSelectPrefix[] = L"select * from ";
+
+// Property name of the product row, and the DMI attribute that holds it.
+const std::pair<const wchar_t*, const char*> kProductProperties[] = {
+    {L"Name", "product_name"},
+    {L"Vendor", "sys_vendor"},
+    {L"Version", "product_version"},
+    {L"UUID", "product_uuid"},
+    {L"IdentifyingNumber", "product_serial"},
+};
+
+std::wstring LowerWide(std::wstring text)
+{
+    for (auto& c : text) {
+        c = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(c)));
+    }
+    return text;
+}
+
+// The attribute's text without its trailing line end; nullopt if unreadable.
+std::optional<std::wstring> ReadAttribute(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    if (!in) {
+        return std::nullopt;
+    }
+    std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    if (in.bad()) {
+        return std::nullopt;
+    }
+    while (!text.empty() && (text.back() == '\n' || text.back() == '\r' || text.back() == ' ')) {
+        text.pop_back();
+    }
+    std::wstring wide;
+    if (!text.empty() && !NarrowToWide(text, wide, kCodePageUtf8)) {
+        return std::nullopt;
+    }
+    return wide;
+}
+
+} // namespace
+
+ManagementClass::ManagementClass(std::string dmiFolder) : dmiFolder_(std::move(dmiFolder)) {}
+
+ManagementClass::~ManagementClass() = default;
+
+bool ManagementClass::Open()
+{
+    opened_ = false;
+    rowTaken_ = false;
+    row_.clear();
+    const std::wstring lowerQuery = LowerWide(query);
+    const std::wstring prefix = kSelectPrefix;
+    if (lowerQuery.compare(0, prefix.size(), prefix) != 0 ||
+        lowerQuery.substr(prefix.size()) != L"win32_computersystemproduct") {
+        return false;
+    }
+    for (const auto& [property, attribute] : kProductProperties) {
+        if (std::optional<std::wstring> value = ReadAttribute(dmiFolder_ + "/" + attribute)) {
+            row_[property] = *value;
+        }
+    }
+    // No readable attribute at all means the machine exports no DMI data:
+    // the query could not run, as when the connection fails.
+    opened_ = !row_.empty();
+    return opened_;
+}
+
+bool ManagementClass::Next()
+{
+    if (!opened_ || rowTaken_) {
+        return false;
+    }
+    rowTaken_ = true;
+    return true;
+}
+
+std::wstring ManagementClass::Property(const std::wstring& name) const
+{
+    if (!rowTaken_) {
+        return {};
+    }
+    const auto found = row_.find(name);
+    return found == row_.end() ? std::wstring() : found->second;
+}
