@@ -1,0 +1,162 @@
+#include "host/curl_exchange.h"
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "host/curl_connection_cache.h"
+
+namespace host {
+namespace {
+
+struct EasyDeleter
+{
+    void operator()(CURL* curl) const { curl_easy_cleanup(curl); }
+};
+struct SlistDeleter
+{
+    void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+};
+using EasyHandle = std::unique_ptr<CURL, EasyDeleter>;
+using HeaderList = std::unique_ptr<curl_slist, SlistDeleter>;
+
+void Append(HeaderList& list, const std::string& line)
+{
+    curl_slist* grown = curl_slist_append(list.get(), line.c_str());
+    if (grown == nullptr) {
+        throw std::runtime_error("out of memory while building request headers");
+    }
+    list.release();
+    list.reset(grown);
+}
+
+// libcurl drops a header given as "Name:" and adds some of its own; "Name;"
+// is its way of sending a header with an empty value, and "Name:" with no
+// value switches one of its defaults off. Host and Content-Length are the
+// protocol's and stay.
+HeaderList BuildHeaderList(const AnyHttpHeaderMap& headers, bool carriesBody)
+{
+    HeaderList list;
+    for (const auto& [name, value] : headers) {
+        Append(list, value.empty() ? name + ";" : name + ": " + value);
+    }
+    auto has = [&headers](const char* name) {
+        for (const auto& entry : headers) {
+            if (curl_strequal(entry.first.c_str(), name)) {
+                return true;
+            }
+        }
+        return false;
+    };
+    if (!has("Accept")) {
+        Append(list, "Accept:");
+    }
+    if (!has("Expect")) {
+        Append(list, "Expect:");
+    }
+    if (carriesBody && !has("Content-Type")) {
+        Append(list, "Content-Type:");
+    }
+    return list;
+}
+
+size_t CollectBody(char* data, size_t size, size_t count, void* target)
+{
+    static_cast<std::string*>(target)->append(data, size * count);
+    return size * count;
+}
+
+std::string Trim(const std::string& text)
+{
+    const char* blanks = " \t\r\n";
+    const size_t first = text.find_first_not_of(blanks);
+    if (first == std::string::npos) {
+        return std::string();
+    }
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+// Keeps the headers of the last response only: an interim 100 response or a
+// proxy's answer starts the map again.
+size_t CollectHeader(char* data, size_t size, size_t count, void* target)
+{
+    auto* headers = static_cast<AnyHttpHeaderMap*>(target);
+    const std::string line(data, size * count);
+    if (line.compare(0, 5, "HTTP/") == 0) {
+        headers->clear();
+        return size * count;
+    }
+    const size_t colon = line.find(':');
+    if (colon != std::string::npos && colon > 0) {
+        (*headers)[Trim(line.substr(0, colon))] = Trim(line.substr(colon + 1));
+    }
+    return size * count;
+}
+
+} // namespace
+
+CResponseInfo PerformCurlExchange(const CurlExchangeSpec& ex, AnyHttpHeaderMap& responseHeaders)
+{
+    CURLSH* share = SharedConnectionCache();
+
+    EasyHandle curl(curl_easy_init());
+    if (!curl) {
+        throw std::runtime_error("libcurl easy handle could not be created");
+    }
+    CURL* handle = curl.get();
+    const bool post = ex.post;
+    const bool carriesBody = post || !ex.body.empty();
+    HeaderList headerList = BuildHeaderList(ex.headers, carriesBody);
+
+    CResponseInfo response;
+    char errorText[CURL_ERROR_SIZE] = {0};
+
+    curl_easy_setopt(handle, CURLOPT_SHARE, share);
+    curl_easy_setopt(handle, CURLOPT_URL, ex.url.c_str());
+    curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
+    curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, errorText);
+    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headerList.get());
+    curl_easy_setopt(handle, CURLOPT_HTTP_VERSION,
+                     ex.httpVersion == 2 ? CURL_HTTP_VERSION_2TLS : CURL_HTTP_VERSION_1_1);
+    curl_easy_setopt(handle, CURLOPT_SSL_VERIFYPEER, 1L);
+    curl_easy_setopt(handle, CURLOPT_SSL_VERIFYHOST, 2L);
+    if (!ex.caFile.empty()) {
+        curl_easy_setopt(handle, CURLOPT_CAINFO, ex.caFile.c_str());
+    }
+    const long timeout = ex.timeoutSeconds;
+    if (timeout > 0) {
+        curl_easy_setopt(handle, CURLOPT_TIMEOUT, timeout);
+    }
+    if (carriesBody) {
+        curl_easy_setopt(handle, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(ex.body.size()));
+        curl_easy_setopt(handle, CURLOPT_POSTFIELDS, ex.body.data());
+        if (!post) {
+            curl_easy_setopt(handle, CURLOPT_CUSTOMREQUEST, "GET");
+        }
+    } else {
+        curl_easy_setopt(handle, CURLOPT_HTTPGET, 1L);
+    }
+    curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, CollectBody);
+    curl_easy_setopt(handle, CURLOPT_WRITEDATA, &response.body);
+    AnyHttpHeaderMap received;
+    curl_easy_setopt(handle, CURLOPT_HEADERFUNCTION, CollectHeader);
+    curl_easy_setopt(handle, CURLOPT_HEADERDATA, &received);
+
+    const CURLcode result = curl_easy_perform(handle);
+    if (result != CURLE_OK) {
+        // The error buffer names the host and the failing step, never a header,
+        // so no token can reach this text.
+        std::string message = std::string("HTTP transfer failed: ") + curl_easy_strerror(result);
+        if (errorText[0] != '\0') {
+            message += std::string(" (") + errorText + ")";
+        }
+        throw std::runtime_error(message);
+    }
+    long status = 0;
+    curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &status);
+    response.status = static_cast<int32_t>(status);
+    responseHeaders = std::move(received);
+    return response;
+}
+
+} // namespace host
