@@ -99,7 +99,9 @@ struct ExternalEventSource {
 // Installs the source for the calling thread; an empty source removes it.
 void SetThreadEventSource(ExternalEventSource source);
 
-// For loops that wait by themselves: how long the calling thread may sleep
-// before its queue needs it. 0 when something is waiting already, the time
-// to the next timer otherwise, INFINITE with no timer.
+// For loops that wait by themselves (with only `wake` installed): runs the
+// messages sent to the calling thread, then says how long it may sleep before
+// its queue needs it: 0 when something is waiting already, the time to the
+// next timer otherwise, INFINITE with no timer. A result other than 0 arms
+// the wake, so a post from another thread after this call calls wake().
 DWORD GetQueueWaitTimeout();
