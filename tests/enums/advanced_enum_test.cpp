@@ -1,7 +1,10 @@
 #include "foundation/advanced_enum.h"
 
+#include <atomic>
 #include <memory>
 #include <string>
+#include <thread>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -103,6 +106,32 @@ TEST(LastEnumId, ConstructingAnyBaseCmdTypeAdvancesItByOne)
     EXPECT_EQ(lastEnumId.load(), 601);
     EXPECT_EQ(attribute.cmd.id, 10203) << "the attribute keeps the source's id";
     EXPECT_EQ(GetDescriptionOf(attribute.cmd), Utf8ToGbk("pc客户端操作"));
+}
+
+TEST(LastEnumId, RequestObjectsOnWorkerThreadsLoseNoIncrement)
+{
+    constexpr int kThreads = 4;
+    constexpr int kValuesPerThread = 1000000;
+    const CbsType anchor(0);
+    std::atomic<int> ready{0};
+    std::vector<std::thread> workers;
+    for (int t = 0; t < kThreads; ++t) {
+        workers.emplace_back([&ready] {
+            // Start together so that the increments really overlap.
+            ready.fetch_add(1);
+            while (ready.load() < kThreads) {
+                std::this_thread::yield();
+            }
+            for (int i = 0; i < kValuesPerThread; ++i) {
+                const AdvancedIntEnumType defaultMade;
+                (void)defaultMade;
+            }
+        });
+    }
+    for (std::thread& worker : workers) {
+        worker.join();
+    }
+    EXPECT_EQ(lastEnumId.load(), kThreads * kValuesPerThread);
 }
 
 TEST(Copy, SharesTheAttributeObjects)
