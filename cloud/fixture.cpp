@@ -1,0 +1,495 @@
+#include "fixture.h"
+
+#include <algorithm>
+#include <fstream>
+#include <initializer_list>
+#include <sstream>
+
+#include "wire_text.h"
+
+namespace cloud {
+
+FixtureError::FixtureError(const std::string& file, const std::string& place, const std::string& reason)
+    : std::runtime_error(file + ": " + (place.empty() ? "(root)" : place) + ": " + reason)
+{
+}
+
+namespace {
+
+// Walks the JSON with the current place, so every refusal can say where.
+class Reader
+{
+public:
+    explicit Reader(std::string file) : file_(std::move(file)) {}
+
+    [[noreturn]] void Fail(const std::string& place, const std::string& reason) const
+    {
+        throw FixtureError(file_, place, reason);
+    }
+
+    static std::string Join(const std::string& place, const std::string& key)
+    {
+        return place.empty() ? key : place + "." + key;
+    }
+    static std::string At(const std::string& place, Json::ArrayIndex index)
+    {
+        return place + "[" + std::to_string(index) + "]";
+    }
+
+    void Object(const Json::Value& value, const std::string& place, std::initializer_list<const char*> allowed) const
+    {
+        if (!value.isObject())
+            Fail(place, "must be an object");
+        for (const auto& name : value.getMemberNames()) {
+            bool known = std::any_of(allowed.begin(), allowed.end(), [&](const char* k) { return name == k; });
+            if (!known)
+                Fail(Join(place, name), "unknown key");
+        }
+    }
+
+    const Json::Value& Require(const Json::Value& parent, const std::string& place, const char* key) const
+    {
+        if (!parent.isMember(key))
+            Fail(Join(place, key), "missing");
+        return parent[key];
+    }
+
+    std::string String(const Json::Value& parent, const std::string& place, const char* key, bool required,
+                       const std::string& fallback = "") const
+    {
+        if (!parent.isMember(key)) {
+            if (required)
+                Fail(Join(place, key), "missing");
+            return fallback;
+        }
+        if (!parent[key].isString())
+            Fail(Join(place, key), "must be a string");
+        return parent[key].asString();
+    }
+
+    int64_t Int(const Json::Value& parent, const std::string& place, const char* key, bool required,
+                int64_t fallback = 0, bool nonNegative = true) const
+    {
+        if (!parent.isMember(key)) {
+            if (required)
+                Fail(Join(place, key), "missing");
+            return fallback;
+        }
+        const Json::Value& v = parent[key];
+        if (!v.isInt64())
+            Fail(Join(place, key), "must be an integer");
+        if (nonNegative && v.asInt64() < 0)
+            Fail(Join(place, key), "must not be negative");
+        return v.asInt64();
+    }
+
+    int Int32(const Json::Value& parent, const std::string& place, const char* key, bool required,
+              int fallback = 0) const
+    {
+        int64_t v = Int(parent, place, key, required, fallback);
+        if (v > INT32_MAX)
+            Fail(Join(place, key), "does not fit in 32 bits");
+        return static_cast<int>(v);
+    }
+
+    bool Bool(const Json::Value& parent, const std::string& place, const char* key, bool required,
+              bool fallback = false) const
+    {
+        if (!parent.isMember(key)) {
+            if (required)
+                Fail(Join(place, key), "missing");
+            return fallback;
+        }
+        if (!parent[key].isBool())
+            Fail(Join(place, key), "must be true or false");
+        return parent[key].asBool();
+    }
+
+    const Json::Value& Array(const Json::Value& parent, const std::string& place, const char* key) const
+    {
+        static const Json::Value empty(Json::arrayValue);
+        if (!parent.isMember(key))
+            return empty;
+        if (!parent[key].isArray())
+            Fail(Join(place, key), "must be an array");
+        return parent[key];
+    }
+
+private:
+    std::string file_;
+};
+
+DeviceInfo ReadDevice(const Reader& r, const Json::Value& v, const std::string& place)
+{
+    r.Object(v, place, {"deviceId", "deviceType", "terminalType", "aliasName", "devDisplayName"});
+    DeviceInfo d;
+    d.deviceId = r.String(v, place, "deviceId", true);
+    if (d.deviceId.empty())
+        r.Fail(Reader::Join(place, "deviceId"), "must not be empty");
+    d.deviceType = r.Int32(v, place, "deviceType", false);
+    d.terminalType = r.String(v, place, "terminalType", false);
+    d.aliasName = r.String(v, place, "aliasName", false);
+    d.devDisplayName = r.String(v, place, "devDisplayName", false);
+    return d;
+}
+
+Json::Value DeviceToJson(const DeviceInfo& d)
+{
+    Json::Value v;
+    v["deviceId"] = d.deviceId;
+    v["deviceType"] = d.deviceType;
+    v["terminalType"] = d.terminalType;
+    v["aliasName"] = d.aliasName;
+    v["devDisplayName"] = d.devDisplayName;
+    return v;
+}
+
+void ReadPim(const Reader& r, const Json::Value& root, AccountData& account)
+{
+    const std::string place = "pim";
+    if (!root.isMember("pim"))
+        r.Fail(place, "missing");
+    const Json::Value& pim = root["pim"];
+    r.Object(pim, place, {"contact", "notepad", "calendar", "wlan", "browser"});
+    for (const auto& service : PimServices()) {
+        std::string at = Reader::Join(place, service.name);
+        const Json::Value& v = r.Require(pim, place, service.name);
+        r.Object(v, at, {"dataVersion", "status", "kinds", "maxBatchNumber", "statistics", "records"});
+        PimCategory category;
+        category.dataVersion = r.String(v, at, "dataVersion", true);
+        if (v.isMember("status")) {
+            if (!v["status"].isObject())
+                r.Fail(Reader::Join(at, "status"), "must be an object");
+            category.status = v["status"];
+        }
+        const Json::Value& kinds = r.Array(v, at, "kinds");
+        for (Json::ArrayIndex i = 0; i < kinds.size(); ++i) {
+            if (!kinds[i].isString())
+                r.Fail(Reader::At(Reader::Join(at, "kinds"), i), "must be a string");
+            category.kinds.push_back(kinds[i].asString());
+        }
+        category.maxBatchNumber = r.Int32(v, at, "maxBatchNumber", false, 100);
+        const Json::Value& stats = r.Array(v, at, "statistics");
+        for (Json::ArrayIndex i = 0; i < stats.size(); ++i) {
+            std::string sp = Reader::At(Reader::Join(at, "statistics"), i);
+            r.Object(stats[i], sp, {"source", "sumNum"});
+            category.statistics.push_back({r.String(stats[i], sp, "source", true), r.Int32(stats[i], sp, "sumNum", true)});
+        }
+        const Json::Value& records = r.Array(v, at, "records");
+        for (Json::ArrayIndex i = 0; i < records.size(); ++i) {
+            std::string rp = Reader::At(Reader::Join(at, "records"), i);
+            const Json::Value& e = records[i];
+            r.Object(e, rp, {"kind", "trashed", "recordsCount", "assetsQuotadSpace", "recordsQuotadSpace"});
+            PimRecord record;
+            record.kind = r.String(e, rp, "kind", true);
+            record.trashed = r.Bool(e, rp, "trashed", true);
+            record.recordsCount = r.Int(e, rp, "recordsCount", true);
+            record.assetsQuotadSpace = r.Int(e, rp, "assetsQuotadSpace", true);
+            record.recordsQuotadSpace = r.Int(e, rp, "recordsQuotadSpace", false);
+            category.records.push_back(record);
+        }
+        account.pim[service.name] = category;
+    }
+}
+
+void ReadBackup(const Reader& r, const Json::Value& root, AccountData& account)
+{
+    const std::string place = "backup";
+    const Json::Value& v = r.Require(root, "", "backup");
+    r.Object(v, place, {"generation", "devices"});
+    account.backupGeneration = r.String(v, place, "generation", true);
+    const Json::Value& devices = r.Array(v, place, "devices");
+    std::set<std::string> seen;
+    for (Json::ArrayIndex i = 0; i < devices.size(); ++i) {
+        std::string dp = Reader::At(Reader::Join(place, "devices"), i);
+        const Json::Value& d = devices[i];
+        r.Object(d, dp, {"device", "backupDeviceId", "backups"});
+        BackupOwner owner;
+        owner.device = ReadDevice(r, r.Require(d, dp, "device"), Reader::Join(dp, "device"));
+        owner.backupDeviceId = r.String(d, dp, "backupDeviceId", true);
+        if (!seen.insert(owner.device.deviceId).second)
+            r.Fail(Reader::Join(dp, "device.deviceId"), "repeats an earlier device");
+        const Json::Value& entries = r.Array(d, dp, "backups");
+        for (Json::ArrayIndex k = 0; k < entries.size(); ++k) {
+            std::string ep = Reader::At(Reader::Join(dp, "backups"), k);
+            const Json::Value& e = entries[k];
+            r.Object(e, ep, {"backupId", "status", "type", "size", "startTime", "endTime", "extend"});
+            BackupEntry entry;
+            entry.backupId = r.String(e, ep, "backupId", true);
+            entry.status = r.Int32(e, ep, "status", false);
+            entry.type = r.Int32(e, ep, "type", false);
+            entry.size = r.Int(e, ep, "size", true);
+            entry.startTime = r.Int(e, ep, "startTime", false);
+            entry.endTime = r.Int(e, ep, "endTime", false);
+            entry.extend = r.String(e, ep, "extend", false);
+            owner.backups.push_back(entry);
+        }
+        account.backups.push_back(owner);
+    }
+}
+
+void ReadMessages(const Reader& r, const Json::Value& root, AccountData& account)
+{
+    const std::string place = "messages";
+    const Json::Value& v = r.Require(root, "", "messages");
+    r.Object(v, place, {"pageSize", "devices"});
+    account.messagePageSize = r.Int32(v, place, "pageSize", false, 50);
+    if (account.messagePageSize < 1)
+        r.Fail(Reader::Join(place, "pageSize"), "must be at least 1");
+    const Json::Value& devices = r.Array(v, place, "devices");
+    std::set<std::string> seen;
+    for (Json::ArrayIndex i = 0; i < devices.size(); ++i) {
+        std::string dp = Reader::At(Reader::Join(place, "devices"), i);
+        const Json::Value& d = devices[i];
+        r.Object(d, dp, {"device", "sms", "callLog"});
+        MessageDevice device;
+        device.device = ReadDevice(r, r.Require(d, dp, "device"), Reader::Join(dp, "device"));
+        if (!seen.insert(device.device.deviceId).second)
+            r.Fail(Reader::Join(dp, "device.deviceId"), "repeats an earlier device");
+        device.sms = r.Int32(d, dp, "sms", true);
+        device.callLog = r.Int32(d, dp, "callLog", true);
+        account.messageDevices.push_back(device);
+    }
+}
+
+void AddParents(const std::string& path, std::set<std::string>& folders)
+{
+    for (size_t slash = path.rfind('/'); slash != std::string::npos && slash > 0; slash = path.rfind('/', slash - 1))
+        folders.insert(path.substr(0, slash));
+}
+
+bool IsCleanPath(const std::string& path)
+{
+    if (path.size() < 2 || path[0] != '/' || path.back() == '/')
+        return false;
+    return path.find("//") == std::string::npos && path.find('"') == std::string::npos;
+}
+
+void ReadFiles(const Reader& r, const Json::Value& root, AccountData& account)
+{
+    const Json::Value& files = r.Array(root, "", "files");
+    for (Json::ArrayIndex i = 0; i < files.size(); ++i) {
+        std::string fp = Reader::At("files", i);
+        const Json::Value& f = files[i];
+        r.Object(f, fp, {"path", "size", "createTime", "modifyTime"});
+        NspFile file;
+        file.path = r.String(f, fp, "path", true);
+        if (!IsCleanPath(file.path))
+            r.Fail(Reader::Join(fp, "path"), "must be an absolute path without a trailing '/', '//' or '\"'");
+        file.size = r.Int(f, fp, "size", true);
+        file.createTime = r.Int(f, fp, "createTime", false, 1700000000000);
+        file.modifyTime = r.Int(f, fp, "modifyTime", false, file.createTime);
+        account.files.push_back(file);
+        AddParents(file.path, account.folders);
+    }
+    std::sort(account.files.begin(), account.files.end(),
+              [](const NspFile& a, const NspFile& b) { return a.path < b.path; });
+    for (size_t i = 1; i < account.files.size(); ++i)
+        if (account.files[i].path == account.files[i - 1].path)
+            r.Fail("files", "path " + account.files[i].path + " given twice");
+    const Json::Value& folders = r.Array(root, "", "folders");
+    for (Json::ArrayIndex i = 0; i < folders.size(); ++i) {
+        if (!folders[i].isString() || !IsCleanPath(folders[i].asString()))
+            r.Fail(Reader::At("folders", i), "must be an absolute path string");
+        account.folders.insert(folders[i].asString());
+        AddParents(folders[i].asString(), account.folders);
+    }
+    for (const auto& file : account.files)
+        if (account.folders.count(file.path))
+            r.Fail("files", file.path + " is both a file and a folder");
+}
+
+} // namespace
+
+AccountData AccountFromJson(const Json::Value& root, const std::string& file)
+{
+    Reader r(file);
+    r.Object(root, "",
+             {"name", "session", "quota", "gallery", "drive", "about", "pim", "backup", "messages", "files",
+              "folders", "omConfig", "faults"});
+    AccountData account;
+    account.name = r.String(root, "", "name", false);
+
+    const Json::Value& s = r.Require(root, "", "session");
+    r.Object(s, "session", {"accessToken", "userId", "country", "deviceUuid"});
+    account.session.accessToken = r.String(s, "session", "accessToken", true);
+    account.session.userId = r.String(s, "session", "userId", true);
+    account.session.country = r.String(s, "session", "country", true);
+    account.session.deviceUuid = r.String(s, "session", "deviceUuid", false);
+
+    const Json::Value& q = r.Require(root, "", "quota");
+    r.Object(q, "quota", {"total", "family", "otherExtra"});
+    account.quota.total = r.Int(q, "quota", "total", true);
+    account.quota.family = r.Int(q, "quota", "family", false);
+    account.quota.otherExtra = r.Int(q, "quota", "otherExtra", false);
+
+    const Json::Value& g = r.Require(root, "", "gallery");
+    r.Object(g, "gallery", {"bytes", "recycleBytes"});
+    account.gallery.bytes = r.Int(g, "gallery", "bytes", true);
+    account.gallery.recycleBytes = r.Int(g, "gallery", "recycleBytes", true);
+
+    const Json::Value& d = r.Require(root, "", "drive");
+    r.Object(d, "drive", {"used", "recycleBytes"});
+    account.drive.used = r.Int(d, "drive", "used", true);
+    account.drive.recycleBytes = r.Int(d, "drive", "recycleBytes", true);
+    if (account.drive.recycleBytes > account.drive.used)
+        r.Fail("drive.recycleBytes", "must not exceed drive.used, which includes the bin");
+
+    if (root.isMember("about")) {
+        const Json::Value& a = root["about"];
+        r.Object(a, "about",
+                 {"category", "dataVersion", "domain", "maxBatchNumber", "maxFileUploadSize", "maxThumbnailSize",
+                  "status"});
+        account.about.category = r.String(a, "about", "category", false, account.about.category);
+        account.about.dataVersion = r.String(a, "about", "dataVersion", false, account.about.dataVersion);
+        account.about.domain = r.String(a, "about", "domain", false);
+        account.about.maxBatchNumber = r.Int32(a, "about", "maxBatchNumber", false, account.about.maxBatchNumber);
+        account.about.maxFileUploadSize =
+            r.String(a, "about", "maxFileUploadSize", false, account.about.maxFileUploadSize);
+        account.about.maxThumbnailSize = r.Int(a, "about", "maxThumbnailSize", false);
+        if (a.isMember("status")) {
+            if (!a["status"].isObject())
+                r.Fail("about.status", "must be an object");
+            account.about.status = a["status"];
+        }
+    }
+
+    ReadPim(r, root, account);
+    ReadBackup(r, root, account);
+    ReadMessages(r, root, account);
+    ReadFiles(r, root, account);
+
+    if (root.isMember("omConfig")) {
+        const Json::Value& om = root["omConfig"];
+        if (!om.isNull() && !om.isObject())
+            r.Fail("omConfig", "must be an object or null");
+        account.omConfig = om;
+    }
+    if (root.isMember("faults")) {
+        if (!root["faults"].isArray())
+            r.Fail("faults", "must be an array");
+        account.faults = root["faults"];
+    }
+    if (account.Groups().Used() < 0)
+        r.Fail("quota", "sizes overflow");
+    return account;
+}
+
+AccountData LoadAccountFile(const std::string& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    if (!in)
+        throw FixtureError(path, "", "cannot be read");
+    std::stringstream buffer;
+    buffer << in.rdbuf();
+    std::string errors;
+    auto root = ParseJson(buffer.str(), &errors);
+    if (!root) {
+        // jsoncpp says "* Line N, Column M" followed by the reason.
+        std::string first = errors.substr(0, errors.find('\n', errors.find('\n') + 1));
+        for (auto& c : first)
+            if (c == '\n')
+                c = ' ';
+        throw FixtureError(path, "", "not JSON: " + first);
+    }
+    return AccountFromJson(*root, path);
+}
+
+Json::Value AccountToJson(const AccountData& account)
+{
+    Json::Value root;
+    root["name"] = account.name;
+    Json::Value& s = root["session"];
+    s["accessToken"] = account.session.accessToken;
+    s["userId"] = account.session.userId;
+    s["country"] = account.session.country;
+    if (!account.session.deviceUuid.empty())
+        s["deviceUuid"] = account.session.deviceUuid;
+    root["quota"]["total"] = Json::Int64(account.quota.total);
+    root["quota"]["family"] = Json::Int64(account.quota.family);
+    root["quota"]["otherExtra"] = Json::Int64(account.quota.otherExtra);
+    root["gallery"]["bytes"] = Json::Int64(account.gallery.bytes);
+    root["gallery"]["recycleBytes"] = Json::Int64(account.gallery.recycleBytes);
+    root["drive"]["used"] = Json::Int64(account.drive.used);
+    root["drive"]["recycleBytes"] = Json::Int64(account.drive.recycleBytes);
+    Json::Value& a = root["about"];
+    a["category"] = account.about.category;
+    a["dataVersion"] = account.about.dataVersion;
+    a["domain"] = account.about.domain;
+    a["maxBatchNumber"] = account.about.maxBatchNumber;
+    a["maxFileUploadSize"] = account.about.maxFileUploadSize;
+    a["maxThumbnailSize"] = Json::Int64(account.about.maxThumbnailSize);
+    a["status"] = account.about.status;
+    for (const auto& [name, category] : account.pim) {
+        Json::Value& c = root["pim"][name];
+        c["dataVersion"] = category.dataVersion;
+        c["status"] = category.status;
+        c["kinds"] = Json::Value(Json::arrayValue);
+        for (const auto& kind : category.kinds)
+            c["kinds"].append(kind);
+        c["maxBatchNumber"] = category.maxBatchNumber;
+        c["statistics"] = Json::Value(Json::arrayValue);
+        for (const auto& stat : category.statistics) {
+            Json::Value e;
+            e["source"] = stat.source;
+            e["sumNum"] = stat.sumNum;
+            c["statistics"].append(e);
+        }
+        c["records"] = Json::Value(Json::arrayValue);
+        for (const auto& record : category.records) {
+            Json::Value e;
+            e["kind"] = record.kind;
+            e["trashed"] = record.trashed;
+            e["recordsCount"] = Json::Int64(record.recordsCount);
+            e["assetsQuotadSpace"] = Json::Int64(record.assetsQuotadSpace);
+            e["recordsQuotadSpace"] = Json::Int64(record.recordsQuotadSpace);
+            c["records"].append(e);
+        }
+    }
+    root["backup"]["generation"] = account.backupGeneration;
+    root["backup"]["devices"] = Json::Value(Json::arrayValue);
+    for (const auto& owner : account.backups) {
+        Json::Value d;
+        d["device"] = DeviceToJson(owner.device);
+        d["backupDeviceId"] = owner.backupDeviceId;
+        d["backups"] = Json::Value(Json::arrayValue);
+        for (const auto& entry : owner.backups) {
+            Json::Value e;
+            e["backupId"] = entry.backupId;
+            e["status"] = entry.status;
+            e["type"] = entry.type;
+            e["size"] = Json::Int64(entry.size);
+            e["startTime"] = Json::Int64(entry.startTime);
+            e["endTime"] = Json::Int64(entry.endTime);
+            e["extend"] = entry.extend;
+            d["backups"].append(e);
+        }
+        root["backup"]["devices"].append(d);
+    }
+    root["messages"]["pageSize"] = account.messagePageSize;
+    root["messages"]["devices"] = Json::Value(Json::arrayValue);
+    for (const auto& device : account.messageDevices) {
+        Json::Value d;
+        d["device"] = DeviceToJson(device.device);
+        d["sms"] = device.sms;
+        d["callLog"] = device.callLog;
+        root["messages"]["devices"].append(d);
+    }
+    root["files"] = Json::Value(Json::arrayValue);
+    for (const auto& file : account.files) {
+        Json::Value f;
+        f["path"] = file.path;
+        f["size"] = Json::Int64(file.size);
+        f["createTime"] = Json::Int64(file.createTime);
+        f["modifyTime"] = Json::Int64(file.modifyTime);
+        root["files"].append(f);
+    }
+    root["folders"] = Json::Value(Json::arrayValue);
+    for (const auto& folder : account.folders)
+        root["folders"].append(folder);
+    root["omConfig"] = account.omConfig;
+    root["faults"] = account.faults;
+    return root;
+}
+
+} // namespace cloud

@@ -1,0 +1,75 @@
+#include "options.h"
+
+#include <cstdlib>
+
+namespace cloud {
+
+std::string Usage()
+{
+    return "usage: spacemgm-cloud --port N --fixture FILE [--state FILE] [--tls] [--faults FILE]\n"
+           "                      [--write-config FILE] [--ca-file FILE] [--threads N]\n";
+}
+
+static bool ParseInt(const std::string& text, int low, int high, int& out)
+{
+    char* end = nullptr;
+    long value = std::strtol(text.c_str(), &end, 10);
+    if (text.empty() || *end != '\0' || value < low || value > high)
+        return false;
+    out = static_cast<int>(value);
+    return true;
+}
+
+bool ParseOptions(int argc, char** argv, Options& options, std::string& error)
+{
+    for (int i = 1; i < argc; ++i) {
+        std::string arg = argv[i];
+        auto value = [&](std::string& out) {
+            if (i + 1 >= argc) {
+                error = arg + " needs a value";
+                return false;
+            }
+            out = argv[++i];
+            return true;
+        };
+        std::string text;
+        if (arg == "--tls") {
+            options.tls = true;
+        } else if (arg == "--port") {
+            if (!value(text) || !ParseInt(text, 0, 65535, options.port)) {
+                error = error.empty() ? "--port must be 0 to 65535" : error;
+                return false;
+            }
+        } else if (arg == "--threads") {
+            if (!value(text) || !ParseInt(text, 2, 256, options.threads)) {
+                error = error.empty() ? "--threads must be 2 to 256" : error;
+                return false;
+            }
+        } else if (arg == "--fixture") {
+            if (!value(options.fixture))
+                return false;
+        } else if (arg == "--state") {
+            if (!value(options.state))
+                return false;
+        } else if (arg == "--faults") {
+            if (!value(options.faults))
+                return false;
+        } else if (arg == "--write-config") {
+            if (!value(options.writeConfig))
+                return false;
+        } else if (arg == "--ca-file") {
+            if (!value(options.caFile))
+                return false;
+        } else {
+            error = "unknown argument " + arg;
+            return false;
+        }
+    }
+    if (options.fixture.empty()) {
+        error = "--fixture is required";
+        return false;
+    }
+    return true;
+}
+
+} // namespace cloud

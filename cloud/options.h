@@ -1,0 +1,24 @@
+#pragma once
+#include <string>
+
+namespace cloud {
+
+// The command line: spacemgm-cloud --port N --fixture FILE [--state FILE]
+// [--tls] [--faults FILE] [--write-config FILE] [--ca-file FILE] [--threads N]
+struct Options
+{
+    int port = 0;            // 0: any free port
+    std::string fixture;
+    std::string state;       // with it, the account lives in this file across runs
+    bool tls = false;
+    std::string faults;      // a JSON array of fault rules
+    std::string writeConfig; // host configuration file pointing at this emulator
+    std::string caFile;      // where --tls writes the CA certificate
+    int threads = 16;        // worker threads; a hanging fault holds one
+};
+
+// Parses argv; on a bad command line returns false with `error` set.
+bool ParseOptions(int argc, char** argv, Options& options, std::string& error);
+std::string Usage();
+
+} // namespace cloud

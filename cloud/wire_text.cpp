@@ -1,0 +1,227 @@
+#include "wire_text.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstring>
+#include <memory>
+
+namespace cloud {
+
+std::string ClientUrlEncode(const std::string& text)
+{
+    static const char hex[] = "0123456789abcdef";
+    std::string out;
+    out.reserve(text.size() * 3);
+    for (unsigned char c : text) {
+        if (std::isalnum(c) || c == '*' || c == '-' || c == '.' || c == '_') {
+            out.push_back(static_cast<char>(c));
+        } else {
+            out.push_back('%');
+            out.push_back(hex[c >> 4]);
+            out.push_back(hex[c & 0x0f]);
+        }
+    }
+    return out;
+}
+
+static int HexValue(char c)
+{
+    if (c >= '0' && c <= '9')
+        return c - '0';
+    if (c >= 'a' && c <= 'f')
+        return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F')
+        return c - 'A' + 10;
+    return -1;
+}
+
+std::optional<std::string> UrlDecode(const std::string& text)
+{
+    std::string out;
+    out.reserve(text.size());
+    for (size_t i = 0; i < text.size(); ++i) {
+        char c = text[i];
+        if (c == '%') {
+            if (i + 2 >= text.size())
+                return std::nullopt;
+            int high = HexValue(text[i + 1]);
+            int low = HexValue(text[i + 2]);
+            if (high < 0 || low < 0)
+                return std::nullopt;
+            out.push_back(static_cast<char>(high * 16 + low));
+            i += 2;
+        } else if (c == '+') {
+            out.push_back(' ');
+        } else {
+            out.push_back(c);
+        }
+    }
+    return out;
+}
+
+static const char kBase64Alphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+
+std::string Base64Encode(const std::string& bytes)
+{
+    std::string out;
+    size_t i = 0;
+    while (i + 2 < bytes.size()) {
+        unsigned n = (static_cast<unsigned char>(bytes[i]) << 16) |
+                     (static_cast<unsigned char>(bytes[i + 1]) << 8) | static_cast<unsigned char>(bytes[i + 2]);
+        out.push_back(kBase64Alphabet[(n >> 18) & 63]);
+        out.push_back(kBase64Alphabet[(n >> 12) & 63]);
+        out.push_back(kBase64Alphabet[(n >> 6) & 63]);
+        out.push_back(kBase64Alphabet[n & 63]);
+        i += 3;
+    }
+    size_t rest = bytes.size() - i;
+    if (rest == 1) {
+        unsigned n = static_cast<unsigned char>(bytes[i]) << 16;
+        out.push_back(kBase64Alphabet[(n >> 18) & 63]);
+        out.push_back(kBase64Alphabet[(n >> 12) & 63]);
+        out += "==";
+    } else if (rest == 2) {
+        unsigned n = (static_cast<unsigned char>(bytes[i]) << 16) | (static_cast<unsigned char>(bytes[i + 1]) << 8);
+        out.push_back(kBase64Alphabet[(n >> 18) & 63]);
+        out.push_back(kBase64Alphabet[(n >> 12) & 63]);
+        out.push_back(kBase64Alphabet[(n >> 6) & 63]);
+        out.push_back('=');
+    }
+    return out;
+}
+
+std::optional<std::string> Base64Decode(const std::string& text)
+{
+    if (text.size() % 4 != 0)
+        return std::nullopt;
+    std::string out;
+    for (size_t i = 0; i < text.size(); i += 4) {
+        unsigned n = 0;
+        int padding = 0;
+        for (size_t k = 0; k < 4; ++k) {
+            char c = text[i + k];
+            unsigned v = 0;
+            if (c == '=') {
+                if (i + 4 != text.size() || k < 2)
+                    return std::nullopt;
+                ++padding;
+            } else {
+                if (padding > 0)
+                    return std::nullopt;
+                const char* at = std::strchr(kBase64Alphabet, c);
+                if (c == '\0' || at == nullptr)
+                    return std::nullopt;
+                v = static_cast<unsigned>(at - kBase64Alphabet);
+            }
+            n = (n << 6) | v;
+        }
+        out.push_back(static_cast<char>((n >> 16) & 0xff));
+        if (padding < 2)
+            out.push_back(static_cast<char>((n >> 8) & 0xff));
+        if (padding < 1)
+            out.push_back(static_cast<char>(n & 0xff));
+    }
+    return out;
+}
+
+FormBody ParseForm(const std::string& body)
+{
+    FormBody form;
+    if (body.empty())
+        return form;
+    size_t start = 0;
+    while (start <= body.size()) {
+        size_t end = body.find('&', start);
+        if (end == std::string::npos)
+            end = body.size();
+        std::string pair = body.substr(start, end - start);
+        size_t eq = pair.find('=');
+        if (eq == std::string::npos) {
+            form.error = "form pair without '=': " + pair.substr(0, 40);
+            return form;
+        }
+        auto key = UrlDecode(pair.substr(0, eq));
+        auto value = UrlDecode(pair.substr(eq + 1));
+        if (!key || !value) {
+            form.error = "broken percent escape in form";
+            return form;
+        }
+        if (!form.fields.emplace(*key, *value).second) {
+            form.error = "form key repeated: " + *key;
+            return form;
+        }
+        start = end + 1;
+    }
+    return form;
+}
+
+std::optional<std::vector<std::string>> ParseListText(const std::string& text)
+{
+    if (text.size() < 2 || text.front() != '[' || text.back() != ']')
+        return std::nullopt;
+    std::vector<std::string> items;
+    std::string inner = text.substr(1, text.size() - 2);
+    if (inner.empty())
+        return items;
+    size_t pos = 0;
+    while (pos < inner.size()) {
+        if (inner[pos] != '"')
+            return std::nullopt;
+        size_t close = inner.find('"', pos + 1);
+        if (close == std::string::npos)
+            return std::nullopt;
+        items.push_back(inner.substr(pos + 1, close - pos - 1));
+        pos = close + 1;
+        if (pos == inner.size())
+            break;
+        if (inner[pos] != ',')
+            return std::nullopt;
+        ++pos;
+        if (pos == inner.size())
+            return std::nullopt;
+    }
+    return items;
+}
+
+std::optional<Json::Value> ParseJson(const std::string& text, std::string* error)
+{
+    Json::CharReaderBuilder builder;
+    builder["collectComments"] = false;
+    std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+    Json::Value value;
+    std::string errors;
+    if (!reader->parse(text.data(), text.data() + text.size(), &value, &errors)) {
+        if (error)
+            *error = errors;
+        return std::nullopt;
+    }
+    return value;
+}
+
+std::string WriteCompactJson(const Json::Value& value)
+{
+    Json::StreamWriterBuilder builder;
+    builder["indentation"] = "";
+    return Json::writeString(builder, value);
+}
+
+std::string WriteStyledJson(const Json::Value& value)
+{
+    Json::StreamWriterBuilder builder;
+    builder["indentation"] = "  ";
+    return Json::writeString(builder, value) + "\n";
+}
+
+std::string ToLower(std::string text)
+{
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return text;
+}
+
+bool StartsWith(const std::string& text, const std::string& prefix)
+{
+    return text.compare(0, prefix.size(), prefix) == 0;
+}
+
+} // namespace cloud

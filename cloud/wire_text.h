@@ -1,0 +1,41 @@
+#pragma once
+// Text codecs the services speak: the client's own percent-encoding, Base64,
+// form bodies and the bracketed list text of the NSP forms.
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <json/json.h>
+
+namespace cloud {
+
+// Percent-encoding as the client does it: letters, digits and "*-._" stay,
+// every other byte becomes '%' with two lower-case hex digits.
+std::string ClientUrlEncode(const std::string& text);
+// Decodes %XX (either case) and '+' as a blank; nullopt on a broken escape.
+std::optional<std::string> UrlDecode(const std::string& text);
+
+std::string Base64Encode(const std::string& bytes);
+std::optional<std::string> Base64Decode(const std::string& text);
+
+// An application/x-www-form-urlencoded body. A repeated key or a pair without
+// '=' makes it invalid: the client never sends either.
+struct FormBody {
+    std::map<std::string, std::string> fields;
+    std::string error;
+    bool ok() const { return error.empty(); }
+};
+FormBody ParseForm(const std::string& body);
+
+// The list text of the NSP forms: "[" then quoted items joined by ",", then "]".
+std::optional<std::vector<std::string>> ParseListText(const std::string& text);
+
+std::optional<Json::Value> ParseJson(const std::string& text, std::string* error = nullptr);
+std::string WriteCompactJson(const Json::Value& value);
+std::string WriteStyledJson(const Json::Value& value);
+
+std::string ToLower(std::string text);
+bool StartsWith(const std::string& text, const std::string& prefix);
+
+} // namespace cloud
