@@ -54,20 +54,3 @@ private:
     HWND hwnd_ = nullptr;
     DWORD threadId_ = 0;
 };
-
-// Pumps the calling thread's queue until `done` holds or `limitMs` pass.
-inline bool PumpUntil(const std::function<bool()>& done, DWORD limitMs = 2000) {
-    const DWORD start = GetTickCount();
-    MSG msg{};
-    while (!done()) {
-        if (GetTickCount() - start > limitMs) {
-            return false;
-        }
-        if (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
-            DispatchMessageW(&msg);
-        } else {
-            Sleep(1);
-        }
-    }
-    return true;
-}
