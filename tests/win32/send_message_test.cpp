@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <future>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -213,4 +214,56 @@ TEST(SendMessage, RunsBeforeMessagesPostedEarlier) {
     EXPECT_EQ(order, (std::vector<UINT>{kAsk, kAskBack}));
     DestroyWindow(hwnd);
     CloseHandle(sending);
+}
+
+TEST(SendMessage, WaitingSenderRunsSendsButNotItsPostedMessages) {
+    constexpr UINT kPosted = WM_USER + 30;
+    std::vector<UINT> seenHere;
+    HWND here = CreateWindowHandle([&](HWND, UINT msg, WPARAM, LPARAM) -> LRESULT {
+        if (msg == kAskBack || msg == kPosted) {
+            seenHere.push_back(msg);
+        }
+        return 0;
+    });
+    WindowThread other([&](HWND, UINT msg, WPARAM, LPARAM) -> LRESULT {
+        if (msg == kAsk) {
+            PostMessageW(here, kPosted, 0, 0);
+            SendMessageW(here, kAskBack, 0, 0);
+        }
+        return 0;
+    });
+    SendMessageW(other.Hwnd(), kAsk, 0, 0);
+    EXPECT_EQ(seenHere, (std::vector<UINT>{kAskBack})) << "the posted message waits for the loop";
+    MSG msg{};
+    ASSERT_TRUE(PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE));
+    EXPECT_EQ(msg.message, kPosted);
+    other.Stop();
+    DestroyWindow(here);
+}
+
+TEST(SendMessage, WorkerAsksHostWindowThenWaitsForItsEvent) {
+    // The backup query's road: a worker sends the event and a string to a
+    // window on another thread, which writes the answer and sets the event.
+    constexpr UINT kVersionQuestion = WM_USER + 31;
+    WindowThread host([](HWND, UINT msg, WPARAM wParam, LPARAM lParam) -> LRESULT {
+        if (msg == kVersionQuestion) {
+            *reinterpret_cast<std::string*>(lParam) = "v3";
+            SetEvent(reinterpret_cast<HANDLE>(wParam));
+            return 1;
+        }
+        return 0;
+    });
+    std::string answer;
+    std::thread worker([&] {
+        HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+        std::string version;
+        SendMessageW(host.Hwnd(), kVersionQuestion, reinterpret_cast<WPARAM>(event),
+                     reinterpret_cast<LPARAM>(&version));
+        if (WaitForSingleObject(event, 2000) == WAIT_OBJECT_0) {
+            answer = version;
+        }
+        CloseHandle(event);
+    });
+    worker.join();
+    EXPECT_EQ(answer, "v3");
 }
