@@ -1,0 +1,278 @@
+#include "toolkit/paint/dialog_builder.h"
+
+#include <pugixml.hpp>
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+
+#include "toolkit/controls/button.h"
+#include "toolkit/controls/container.h"
+#include "toolkit/controls/label.h"
+#include "toolkit/controls/list.h"
+#include "toolkit/controls/progress.h"
+#include "toolkit/core/resource_manager.h"
+#include "toolkit/paint/paint_manager.h"
+
+namespace DuiLib {
+
+namespace {
+
+// Thrown inside the parser with the element's offset; caught in Create.
+struct BuildFailure {
+    std::ptrdiff_t offset;
+    std::wstring name;
+    std::string message;
+};
+
+std::wstring W(const char* utf8)
+{
+    return attr::Widen(utf8 ? utf8 : "");
+}
+
+int LineOf(const std::string& text, std::ptrdiff_t offset)
+{
+    if (offset < 0) return 0;
+    int line = 1;
+    const auto end = std::min<std::size_t>(static_cast<std::size_t>(offset), text.size());
+    for (std::size_t i = 0; i < end; ++i) {
+        if (text[i] == '\n') ++line;
+    }
+    return line;
+}
+
+std::wstring Localised(const std::wstring& value)
+{
+    if (value.size() > 3 && value.compare(0, 2, L"%[") == 0 && value.back() == L']') {
+        return CResourceManager::GetInstance()->GetText(value.substr(2, value.size() - 3).c_str());
+    }
+    return value;
+}
+
+}  // namespace
+
+CControlUI* CreateBuiltinControl(const std::wstring& className)
+{
+    if (className == L"Control") return new CControlUI;
+    if (className == L"Container") return new CContainerUI;
+    if (className == L"VerticalLayout") return new CVerticalLayoutUI;
+    if (className == L"HorizontalLayout") return new CHorizontalLayoutUI;
+    if (className == L"TabLayout") return new CTabLayoutUI;
+    if (className == L"Label") return new CLabelUI;
+    if (className == L"Text") return new CTextUI;
+    if (className == L"Button") return new CButtonUI;
+    if (className == L"Progress") return new CProgressUI;
+    if (className == L"List") return new CListUI;
+    if (className == L"ListContainerElement") return new CListContainerElementUI;
+    return nullptr;
+}
+
+struct CDialogBuilder::Parser {
+    IDialogBuilderCallback* callback;
+    CPaintManagerUI* manager;
+
+    [[noreturn]] static void Fail(const pugi::xml_node& node, std::wstring name, std::string message)
+    {
+        throw BuildFailure{node.offset_debug(), std::move(name), std::move(message)};
+    }
+
+    void ApplyWindow(const pugi::xml_node& node)
+    {
+        for (const auto& a : node.attributes()) {
+            const std::wstring name = W(a.name());
+            const std::wstring value = W(a.value());
+            try {
+                if (name == L"size") {
+                    const SIZE s = attr::ParseSize(name.c_str(), value.c_str());
+                    if (manager) manager->SetInitSize(s.cx, s.cy);
+                } else if (name == L"caption") {
+                    const RECT r = attr::ParseRect(name.c_str(), value.c_str());
+                    if (manager) manager->SetCaptionRect(r);
+                } else if (name == L"roundcorner") {
+                    const SIZE s = attr::ParseSize(name.c_str(), value.c_str());
+                    if (manager) manager->SetRoundCorner(s.cx, s.cy);
+                } else if (name == L"mininfo") {
+                    const SIZE s = attr::ParseSize(name.c_str(), value.c_str());
+                    if (manager) manager->SetMinInfo(s.cx, s.cy);
+                } else if (name == L"defaultfontcolor") {
+                    const DWORD color = attr::ParseColor(name.c_str(), value.c_str());
+                    if (manager) manager->SetDefaultFontColor(color);
+                } else if (name == L"sizebox" || name == L"maxinfo") {
+                    attr::ParseRect(name.c_str(), value.c_str());
+                } else if (name == L"showshadow" || name == L"bktrans" || name == L"layered") {
+                    attr::ParseBool(name.c_str(), value.c_str());
+                } else {
+                    throw AttributeError(AttributeError::Kind::UnknownAttribute, name, value);
+                }
+            } catch (const AttributeError& e) {
+                Fail(node, e.name(), std::string("Window: ") + e.what());
+            }
+        }
+    }
+
+    void ApplyFont(const pugi::xml_node& node)
+    {
+        int id = -1;
+        std::wstring family;
+        int size = 12;
+        bool bold = false;
+        bool underline = false;
+        bool italic = false;
+        bool isDefault = false;
+        for (const auto& a : node.attributes()) {
+            const std::wstring name = W(a.name());
+            const std::wstring value = W(a.value());
+            try {
+                if (name == L"id") id = attr::ParseInt(name.c_str(), value.c_str());
+                else if (name == L"name") family = value;
+                else if (name == L"size") size = attr::ParseInt(name.c_str(), value.c_str());
+                else if (name == L"bold") bold = attr::ParseBool(name.c_str(), value.c_str());
+                else if (name == L"underline") underline = attr::ParseBool(name.c_str(), value.c_str());
+                else if (name == L"italic") italic = attr::ParseBool(name.c_str(), value.c_str());
+                else if (name == L"default") isDefault = attr::ParseBool(name.c_str(), value.c_str());
+                else if (name == L"shared") attr::ParseBool(name.c_str(), value.c_str());
+                else throw AttributeError(AttributeError::Kind::UnknownAttribute, name, value);
+            } catch (const AttributeError& e) {
+                Fail(node, e.name(), std::string("Font: ") + e.what());
+            }
+        }
+        if (manager == nullptr) return;
+        if (id >= 0) manager->AddFont(id, family.c_str(), size, bold, underline, italic);
+        if (isDefault) manager->SetDefaultFont(family.c_str(), size, bold, underline, italic);
+    }
+
+    void ApplyDefault(const pugi::xml_node& node)
+    {
+        const std::wstring name = W(node.attribute("name").value());
+        const std::wstring value = W(node.attribute("value").value());
+        if (name.empty()) Fail(node, L"name", "Default: missing attribute 'name'");
+        for (const auto& a : node.attributes()) {
+            const std::string key = a.name();
+            if (key != "name" && key != "value" && key != "shared") {
+                Fail(node, W(a.name()), "Default: unknown attribute '" + key + "'");
+            }
+        }
+        // Check the list now, so a typo is reported where it was written.
+        std::unique_ptr<CControlUI> probe(CreateBuiltinControl(name));
+        if (!probe && callback) probe.reset(callback->CreateControl(name.c_str()));
+        if (!probe) Fail(node, name, "Default: unknown control class '" + attr::Narrow(name) + "'");
+        try {
+            probe->ApplyAttributeList(value.c_str());
+        } catch (const AttributeError& e) {
+            Fail(node, e.name(), std::string("Default ") + attr::Narrow(name) + ": " + e.what());
+        }
+        if (manager) manager->AddDefaultAttributeList(name.c_str(), value.c_str());
+    }
+
+    CControlUI* Build(const pugi::xml_node& node, CControlUI* parent)
+    {
+        const std::wstring className = W(node.name());
+        std::unique_ptr<CControlUI> control(CreateBuiltinControl(className));
+        if (!control && callback) control.reset(callback->CreateControl(className.c_str()));
+        if (!control) Fail(node, className, "unknown element '" + attr::Narrow(className) + "'");
+
+        if (manager) {
+            if (LPCTSTR defaults = manager->GetDefaultAttributeList(className.c_str())) {
+                try {
+                    control->ApplyAttributeList(defaults);
+                } catch (const AttributeError& e) {
+                    Fail(node, e.name(), attr::Narrow(className) + ": " + e.what());
+                }
+            }
+        }
+        for (const auto& a : node.attributes()) {
+            const std::wstring name = W(a.name());
+            std::wstring value = W(a.value());
+            if (name == L"text" || name == L"tooltip") value = Localised(value);
+            try {
+                control->SetAttribute(name.c_str(), value.c_str());
+            } catch (const AttributeError& e) {
+                Fail(node, e.name(), attr::Narrow(className) + ": " + e.what());
+            }
+        }
+        auto* container = static_cast<IContainerUI*>(control->GetInterface(DUI_CTR_ICONTAINER));
+        for (const auto& child : node.children()) {
+            if (child.type() != pugi::node_element) continue;
+            if (container == nullptr) {
+                Fail(child, W(child.name()), attr::Narrow(className) + " cannot hold child elements");
+            }
+            CControlUI* built = Build(child, control.get());
+            container->Add(built);
+        }
+        (void)parent;
+        return control.release();
+    }
+};
+
+CDialogBuilder::CDialogBuilder() = default;
+
+CDialogBuilder::~CDialogBuilder() = default;
+
+CControlUI* CDialogBuilder::Create(STRINGorID xml, LPCTSTR, IDialogBuilderCallback* pCallback,
+                                   CPaintManagerUI* pManager, CControlUI* pParent)
+{
+    m_pCallback = pCallback;
+    m_error.reset();
+    const std::wstring source = xml.m_lpstr ? xml.m_lpstr : L"";
+    std::string text;
+    std::string fileLabel = "<string>";
+    if (!source.empty() && source[0] == L'<') {
+        text = attr::Narrow(source);
+    } else {
+        std::string path = attr::Narrow(source);
+        if (path.empty() || path[0] != '/') path = attr::Narrow(CPaintManagerUI::GetResourcePath().str()) + path;
+        fileLabel = path;
+        std::ifstream in(path, std::ios::binary);
+        if (!in) {
+            m_error = SkinError{fileLabel, 0, source, "cannot open skin file"};
+            std::fprintf(stderr, "%s\n", m_error->ToString().c_str());
+            return nullptr;
+        }
+        std::ostringstream content;
+        content << in.rdbuf();
+        text = content.str();
+    }
+
+    pugi::xml_document doc;
+    const pugi::xml_parse_result parsed = doc.load_buffer(text.data(), text.size());
+    if (!parsed) {
+        m_error = SkinError{fileLabel, LineOf(text, parsed.offset), L"", std::string("XML: ") + parsed.description()};
+        std::fprintf(stderr, "%s\n", m_error->ToString().c_str());
+        return nullptr;
+    }
+
+    Parser parser{pCallback, pManager};
+    try {
+        pugi::xml_node root = doc.document_element();
+        CControlUI* result = nullptr;
+        if (std::string(root.name()) == "Window") {
+            parser.ApplyWindow(root);
+            for (const auto& child : root.children()) {
+                if (child.type() != pugi::node_element) continue;
+                const std::string name = child.name();
+                if (name == "Font") {
+                    parser.ApplyFont(child);
+                } else if (name == "Default") {
+                    parser.ApplyDefault(child);
+                } else if (result == nullptr) {
+                    result = parser.Build(child, pParent);
+                } else {
+                    Parser::Fail(child, W(child.name()), "Window holds more than one root control");
+                }
+            }
+        } else {
+            result = parser.Build(root, pParent);
+        }
+        if (result != nullptr && pManager != nullptr) {
+            result->SetManager(pManager, pParent, false);
+        }
+        return result;
+    } catch (const BuildFailure& failure) {
+        m_error = SkinError{fileLabel, LineOf(text, failure.offset), failure.name, failure.message};
+        std::fprintf(stderr, "%s\n", m_error->ToString().c_str());
+        return nullptr;
+    }
+}
+
+}  // namespace DuiLib
