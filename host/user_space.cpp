@@ -37,6 +37,10 @@ bool ParseQuotaReply(const std::string& body, UserSpaceInfo& info)
         !reply.isObject()) {
         return false;
     }
+    // A reply that carries a result code must carry success.
+    if (reply.isMember("retCode") && !(reply["retCode"].isInt() && reply["retCode"].asInt() == 0)) {
+        return false;
+    }
     UserSpaceInfo parsed;
     // "used" and "total" are required; a group the service leaves out is 0.
     if (!ReadBytes(reply, "used", parsed.used) || !ReadBytes(reply, "total", parsed.total)) {
