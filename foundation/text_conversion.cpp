@@ -26,15 +26,23 @@ bool DecodeUtf8(const std::string& in, std::wstring& out)
             ++i;
             continue;
         }
-        size_t extra;
-        uint32_t cp;
-        uint32_t minimum;
+        // Continuation bytes after the lead, the lead's payload bits, and the
+        // smallest value that needs this length (anything less is overlong).
+        size_t extra = 0;
+        uint32_t cp = 0;
+        uint32_t minimum = 0;
         if ((lead & 0xE0) == 0xC0) {
-            extra = 1, cp = lead & 0x1F, minimum = 0x80;
+            extra = 1;
+            cp = lead & 0x1F;
+            minimum = 0x80;
         } else if ((lead & 0xF0) == 0xE0) {
-            extra = 2, cp = lead & 0x0F, minimum = 0x800;
+            extra = 2;
+            cp = lead & 0x0F;
+            minimum = 0x800;
         } else if ((lead & 0xF8) == 0xF0) {
-            extra = 3, cp = lead & 0x07, minimum = 0x10000;
+            extra = 3;
+            cp = lead & 0x07;
+            minimum = 0x10000;
         } else {
             return false;
         }
