@@ -61,7 +61,8 @@ Emulator::Emulator(Options options, std::unique_ptr<MemoryAccountStore> store, F
     : options_(std::move(options)), store_(std::move(store)), faults_(faults)
 {
     const Session& session = store_->Snapshot()->session;
-    log_.SetSecrets({session.accessToken, ClientUrlEncode(session.accessToken)});
+    log_.SetSecrets(
+        {session.accessToken, ClientUrlEncode(session.accessToken), AsHeaderLibrarySeesIt(session.accessToken)});
 }
 
 Emulator::~Emulator() = default;

@@ -74,7 +74,10 @@ Refusal CheckAuthorization(const ServiceProfile& profile, const httplib::Request
     if (profile.auth == AuthForm::Bearer) {
         if (!StartsWith(value, "Bearer "))
             return Refuse(401, "Authorization: expected \"Bearer \" and the token");
-        if (value.substr(7) != session.accessToken)
+        // The token travels as it is; compare it the way the library hands
+        // it over, so that an encoded token is still told apart when the
+        // token holds a '%'.
+        if (value.substr(7) != AsHeaderLibrarySeesIt(session.accessToken))
             return Refuse(401, "Authorization: the bearer token is not the session's");
         return {};
     }

@@ -35,7 +35,7 @@ static int HexValue(char c)
     return -1;
 }
 
-std::optional<std::string> UrlDecode(const std::string& text)
+std::optional<std::string> UrlDecode(const std::string& text, bool plusIsBlank)
 {
     std::string out;
     out.reserve(text.size());
@@ -50,13 +50,18 @@ std::optional<std::string> UrlDecode(const std::string& text)
                 return std::nullopt;
             out.push_back(static_cast<char>(high * 16 + low));
             i += 2;
-        } else if (c == '+') {
+        } else if (c == '+' && plusIsBlank) {
             out.push_back(' ');
         } else {
             out.push_back(c);
         }
     }
     return out;
+}
+
+std::string AsHeaderLibrarySeesIt(const std::string& sent)
+{
+    return UrlDecode(sent, false).value_or(sent);
 }
 
 static const char kBase64Alphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";

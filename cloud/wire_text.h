@@ -13,8 +13,12 @@ namespace cloud {
 // Percent-encoding as the client does it: letters, digits and "*-._" stay,
 // every other byte becomes '%' with two lower-case hex digits.
 std::string ClientUrlEncode(const std::string& text);
-// Decodes %XX (either case) and '+' as a blank; nullopt on a broken escape.
-std::optional<std::string> UrlDecode(const std::string& text);
+// Decodes %XX (either case), and '+' as a blank when plusIsBlank; nullopt on
+// a broken escape.
+std::optional<std::string> UrlDecode(const std::string& text, bool plusIsBlank = true);
+// A header value as the server library hands it over: cpp-httplib 0.11
+// percent-decodes header values (a broken escape stays as it is).
+std::string AsHeaderLibrarySeesIt(const std::string& sent);
 
 std::string Base64Encode(const std::string& bytes);
 std::optional<std::string> Base64Decode(const std::string& text);
