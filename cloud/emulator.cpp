@@ -94,6 +94,9 @@ bool Emulator::Bind(std::string& error)
     const int threads = options_.threads;
     // httplib owns the queue it asks for and deletes it itself.
     server_->new_task_queue = [threads] { return new httplib::ThreadPool(static_cast<size_t>(threads)); };
+    // Headers and body go out in two writes; without this, Nagle and delayed
+    // acknowledgements hold every reply for tens of milliseconds.
+    server_->set_tcp_nodelay(true);
     server_->set_keep_alive_max_count(100000);
     server_->set_keep_alive_timeout(30);
     server_->set_read_timeout(30, 0);
