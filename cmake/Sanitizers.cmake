@@ -6,3 +6,13 @@ if(SPACEMGM_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
   add_compile_definitions(SPACEMGM_SANITIZE=1)
 endif()
+
+# The fuzz build instruments every target for coverage and checks it with
+# ASan and UBSan; only the fuzz targets link libFuzzer's driver.
+if(SPACEMGM_BUILD_FUZZ)
+  if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    message(FATAL_ERROR "The fuzz targets need clang (use the `fuzz` preset)")
+  endif()
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
