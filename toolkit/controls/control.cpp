@@ -366,7 +366,7 @@ void CControlUI::DoPaint(RenderContext& ctx, const RECT& rcPaint)
 {
     if (!RectsIntersect(rcPaint, m_rcItem)) return;
     const bool rounded = m_cxyBorderRound.cx > 0 && m_cxyBorderRound.cy > 0;
-    if (rounded) ctx.PushClip(m_rcItem, m_cxyBorderRound);
+    if (rounded) ctx.PushClip(m_rcItem, m_cxyBorderRound, GetRoundCorners());
     PaintBkColor(ctx);
     PaintBkImage(ctx);
     PaintStatusImage(ctx);

@@ -132,6 +132,8 @@ public:
     virtual SIZE EstimateSize(SIZE szAvailable);
 
     virtual void DoPaint(RenderContext& ctx, const RECT& rcPaint);
+    // Which corners the border round applies to (all, for most controls).
+    virtual RoundCorners GetRoundCorners() const { return RoundCorners::All; }
     virtual void PaintBkColor(RenderContext& ctx);
     virtual void PaintBkImage(RenderContext& ctx);
     virtual void PaintStatusImage(RenderContext& ctx);

@@ -70,6 +70,11 @@ RoundCorners ToCorners(int direction)
 
 }  // namespace
 
+RoundCorners CProgressUI::GetRoundCorners() const
+{
+    return ToCorners(m_iRoundDirection);
+}
+
 void CProgressUI::PaintBkColor(RenderContext& ctx)
 {
     ctx.FillRoundRect(m_rcItem, m_dwBackColor, m_cxyBorderRound, ToCorners(m_iRoundDirection));

@@ -29,6 +29,7 @@ public:
     int GetFilledWidth() const;
 
     void SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue) override;
+    RoundCorners GetRoundCorners() const override;
     void PaintBkColor(RenderContext& ctx) override;
     void PaintStatusImage(RenderContext& ctx) override;
 

@@ -5,10 +5,16 @@
 #include <cstddef>
 #include <string>
 
-namespace DuiLib {
-
+// Wide text pointers under their Windows names; global, as window code
+// spells them without a namespace.
 using LPCTSTR = const wchar_t*;
 using LPTSTR = wchar_t*;
+using LPCWSTR = const wchar_t*;
+
+namespace DuiLib {
+
+using ::LPCTSTR;
+using ::LPTSTR;
 
 class CDuiString {
 public:

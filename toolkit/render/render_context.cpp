@@ -69,6 +69,7 @@ void ConfigureTextContext(PangoContext* context)
     cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_SLIGHT);
     pango_cairo_context_set_font_options(context, options);
     cairo_font_options_destroy(options);
+    pango_context_set_round_glyph_positions(context, FALSE);
 }
 
 }  // namespace
@@ -214,10 +215,10 @@ void RenderContext::DrawImage(const RECT& rect, const Image& image, int alpha)
                std::min(alpha, 255) / 255.0);
 }
 
-void RenderContext::PushClip(const RECT& rect, SIZE round)
+void RenderContext::PushClip(const RECT& rect, SIZE round, RoundCorners corners)
 {
     cairo_save(m_cr);
-    AddRoundPath(rect, round, RoundCorners::All);
+    AddRoundPath(rect, round, corners);
     cairo_clip(m_cr);
     m_clips.push_back(m_clips.empty() ? rect : IntersectRects(m_clips.back(), rect));
 }

@@ -38,7 +38,7 @@ public:
 
     // Restricts drawing to the rectangle (rounded if `round` is not 0,0)
     // until the matching PopClip.
-    void PushClip(const RECT& rect, SIZE round = SIZE{0, 0});
+    void PushClip(const RECT& rect, SIZE round = SIZE{0, 0}, RoundCorners corners = RoundCorners::All);
     void PopClip();
     // False when nothing of `rect` can show inside the current clip.
     bool IsVisible(const RECT& rect) const;

@@ -21,6 +21,9 @@ PangoContext* MeasuringContext()
             cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
             cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_SLIGHT);
             pango_cairo_context_set_font_options(context, options);
+            // Unrounded positions keep widths proportional to the font size,
+            // so sizes computed at one DPI hold at another.
+            pango_context_set_round_glyph_positions(context, FALSE);
             cairo_font_options_destroy(options);
         }
         ~Holder() { g_object_unref(context); }
