@@ -1,13 +1,16 @@
 // The gallery in a real SDL2 window under Xvfb: a button is clicked with
 // xdotool and a screenshot is taken. Skipped where xvfb-run is missing.
 
+#include <cairo.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -24,6 +27,78 @@ std::string ReadFile(const std::string& path)
     return content.str();
 }
 
+std::uint32_t BigEndian32(const std::string& data, std::size_t offset)
+{
+    std::uint32_t value = 0;
+    for (std::size_t i = 0; i < 4; ++i) value = (value << 8) | static_cast<unsigned char>(data[offset + i]);
+    return value;
+}
+
+// Reads the 24/32-bit ZPixmap screen dump that `xwd -root` writes and saves
+// it as a PNG; returns the pixel reader for probes, or false.
+struct Screen {
+    int width = 0;
+    int height = 0;
+    std::vector<std::uint32_t> pixels;  // 0x00RRGGBB
+    std::uint32_t At(int x, int y) const { return pixels[static_cast<std::size_t>(y) * width + x]; }
+};
+
+bool ReadXwd(const std::string& path, Screen& screen)
+{
+    const std::string data = ReadFile(path);
+    if (data.size() < 100) return false;
+    const std::uint32_t headerSize = BigEndian32(data, 0);
+    const std::uint32_t format = BigEndian32(data, 8);
+    const std::uint32_t byteOrder = BigEndian32(data, 28);
+    const std::uint32_t bitsPerPixel = BigEndian32(data, 44);
+    const std::uint32_t bytesPerLine = BigEndian32(data, 48);
+    const std::uint32_t colours = BigEndian32(data, 76);
+    screen.width = static_cast<int>(BigEndian32(data, 16));
+    screen.height = static_cast<int>(BigEndian32(data, 20));
+    // Packed 24-bit pixels (lines padded) or 32-bit ones.
+    if (format != 2 || (bitsPerPixel != 24 && bitsPerPixel != 32) || screen.width <= 0) return false;
+    const std::size_t bytesPerPixel = bitsPerPixel / 8;
+    const std::size_t start = headerSize + colours * 12u;
+    if (data.size() < start + static_cast<std::size_t>(bytesPerLine) * screen.height) return false;
+    screen.pixels.resize(static_cast<std::size_t>(screen.width) * screen.height);
+    for (int y = 0; y < screen.height; ++y) {
+        for (int x = 0; x < screen.width; ++x) {
+            const std::size_t at = start + static_cast<std::size_t>(y) * bytesPerLine + static_cast<std::size_t>(x) * bytesPerPixel;
+            const auto b = [&](std::size_t i) { return static_cast<std::uint32_t>(static_cast<unsigned char>(data[at + i])); };
+            screen.pixels[static_cast<std::size_t>(y) * screen.width + x] =
+                byteOrder == 0 ? (b(2) << 16 | b(1) << 8 | b(0))
+                               : (bytesPerPixel == 4 ? (b(1) << 16 | b(2) << 8 | b(3)) : (b(0) << 16 | b(1) << 8 | b(2)));
+        }
+    }
+    return true;
+}
+
+bool WritePng(const Screen& screen, const std::string& path)
+{
+    cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_RGB24, screen.width, screen.height);
+    unsigned char* data = cairo_image_surface_get_data(surface);
+    const int stride = cairo_image_surface_get_stride(surface);
+    for (int y = 0; y < screen.height; ++y) {
+        for (int x = 0; x < screen.width; ++x) {
+            *reinterpret_cast<std::uint32_t*>(data + y * stride + x * 4) = screen.At(x, y);
+        }
+    }
+    cairo_surface_mark_dirty(surface);
+    const bool ok = cairo_surface_write_to_png(surface, path.c_str()) == CAIRO_STATUS_SUCCESS;
+    cairo_surface_destroy(surface);
+    return ok;
+}
+
+// The screen position printed by the gallery for a control.
+bool ControlPosition(const std::string& output, const std::string& name, int& x, int& y)
+{
+    const std::string key = "gallery: control " + name + " ";
+    const auto at = output.find(key);
+    if (at == std::string::npos) return false;
+    std::istringstream in(output.substr(at + key.size()));
+    return static_cast<bool>(in >> x >> y);
+}
+
 }  // namespace
 
 TEST(GallerySmoke, ButtonClickedWithXdotoolInARealWindow)
@@ -37,9 +112,11 @@ TEST(GallerySmoke, ButtonClickedWithXdotoolInARealWindow)
     std::filesystem::create_directories(dir);
     const std::string log = (dir / "smoke_gallery.log").string();
     const std::string shot = (dir / "smoke_gallery.png").string();
+    const std::string dump = (dir / "smoke_gallery.xwd").string();
     const std::string script = (dir / "smoke_gallery.sh").string();
     std::filesystem::remove(log);
     std::filesystem::remove(shot);
+    std::filesystem::remove(dump);
     {
         std::ofstream out(script);
         out << "set -u\n"
@@ -54,8 +131,7 @@ TEST(GallerySmoke, ButtonClickedWithXdotoolInARealWindow)
             << "for i in $(seq 1 50); do grep -q 'gallery: click btn_primary' '" << log
             << "' && break; sleep 0.1; done\n"
             << "sleep 0.3\n"
-            << "if command -v import >/dev/null; then import -window root '" << shot << "';\n"
-            << "else xwd -root -silent | convert xwd:- '" << shot << "'; fi\n"
+            << "xwd -root -silent > '" << dump << "'\n"
             << "set -- $(grep 'gallery: control btn_close' '" << log << "' | head -1)\n"
             << "xdotool mousemove \"$4\" \"$5\" click 1\n"
             << "for i in $(seq 1 50); do kill -0 $pid 2>/dev/null || break; sleep 0.1; done\n"
@@ -70,7 +146,18 @@ TEST(GallerySmoke, ButtonClickedWithXdotoolInARealWindow)
     EXPECT_NE(output.find("gallery: click btn_primary"), std::string::npos) << output;
     EXPECT_NE(output.find("gallery: click btn_close"), std::string::npos) << output;
     EXPECT_NE(output.find("gallery: closed 1"), std::string::npos) << output;
-    ASSERT_TRUE(std::filesystem::exists(shot));
-    EXPECT_GT(std::filesystem::file_size(shot), 10000u);
+    Screen screen;
+    ASSERT_TRUE(ReadXwd(dump, screen)) << "no screenshot at " << dump;
+    ASSERT_TRUE(WritePng(screen, shot));
+    // The pointer rests on the clicked button, so it shows its hot colour;
+    // its left edge keeps the blue of the button.
+    int x = 0;
+    int y = 0;
+    ASSERT_TRUE(ControlPosition(output, "btn_primary", x, y));
+    ASSERT_LT(x + 60, screen.width);
+    const std::uint32_t edge = screen.At(x - 60, y);
+    EXPECT_TRUE(edge == 0x2B6FF8u || edge == 0x0A59F7u) << std::hex << edge;
+    // The window's background is painted around it.
+    EXPECT_EQ(screen.At(x, y - 40), 0xFFFFFFu) << std::hex << screen.At(x, y - 40);
 #endif
 }

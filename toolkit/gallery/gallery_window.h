@@ -14,6 +14,8 @@ public:
     void InitWindow() override;
     void Notify(DuiLib::TNotifyUI& msg) override;
     DuiLib::CPaintManagerUI& pm() { return m_pm; }
+    // Shows page `index` and highlights its tab button.
+    void SelectTab(int index);
 
 protected:
     LPCTSTR GetWindowClassName() const override { return L"ToolkitGallery"; }
@@ -23,7 +25,6 @@ protected:
 
 private:
     void FillList();
-    void SelectTab(int index);
     void ReportReady();
 
     int m_rows;

@@ -55,7 +55,7 @@ int main(int argc, char** argv)
         std::printf("gallery: closed %u\n", code);
         return 0;
     }
-    if (auto* tabs = dynamic_cast<CTabLayoutUI*>(window.pm().FindControl(L"gallery_tabs"))) tabs->SelectItem(tab);
+    window.SelectTab(tab);
     window.pm().UpdateLayoutIfNeeded();
     const SIZE client = window.pm().GetClientSize();
     const CDPI* scale = window.pm().GetDPIObj();

@@ -572,22 +572,22 @@ void CPaintManagerUI::UpdateLayoutIfNeeded()
         m_root->SetPos(RECT{0, 0, 0, 0}, false);
         m_root->SetPos(client, false);
     }
-    if (m_bFirstLayout) {
-        m_bFirstLayout = false;
-        SendNotify(m_root.get(), DUI_MSGTYPE_WINDOWINIT, 0, 0, false);
-        // "windowinit" handlers commonly change sizes.
-        if (m_bUpdateNeeded && m_root) {
-            m_bUpdateNeeded = false;
-            m_root->SetPos(RECT{0, 0, 0, 0}, false);
-            m_root->SetPos(client, false);
-        }
-    }
+}
+
+void CPaintManagerUI::SendWindowInitOnce()
+{
+    if (!m_bFirstLayout || !m_root) return;
+    m_bFirstLayout = false;
+    SendNotify(m_root.get(), DUI_MSGTYPE_WINDOWINIT, 0, 0, false);
+    // "windowinit" handlers commonly change sizes.
+    UpdateLayoutIfNeeded();
 }
 
 void CPaintManagerUI::Paint()
 {
     if (!m_root) return;
     UpdateLayoutIfNeeded();
+    SendWindowInitOnce();
     if (m_target == nullptr) {
         m_rcInvalid = RECT{0, 0, 0, 0};
         return;
@@ -605,6 +605,8 @@ void CPaintManagerUI::Render(cairo_t* cr)
 {
     if (!m_root) return;
     UpdateLayoutIfNeeded();
+    SendWindowInitOnce();
+    if (!m_root) return;
     RenderContext ctx(cr, m_dpi.GetScaleFactor());
     const RECT client{0, 0, m_szClient.cx, m_szClient.cy};
     ctx.PushClip(client, m_szRoundCorner);

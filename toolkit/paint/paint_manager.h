@@ -130,8 +130,8 @@ public:
     void NeedUpdate();
     bool IsUpdateNeeded() const { return m_bUpdateNeeded; }
     void UpdateLayoutIfNeeded();
-    // Lays out if needed and paints the invalid part into the target;
-    // raises "windowinit" after the first layout.
+    // Lays out if needed and paints the window into the target; the first
+    // paint raises "windowinit" first.
     void Paint();
     // Paints the whole tree into `cr` (device pixels) regardless of what is
     // invalid; used by targets and tests.
@@ -154,6 +154,9 @@ public:
 
 private:
     void RunDelayedCleanup();
+    // "windowinit" goes out once, when the window is first painted: after
+    // InitWindow, before anything is shown.
+    void SendWindowInitOnce();
     void DispatchEvent(CControlUI* control, int type, POINT pt, WPARAM wParam = 0, LPARAM lParam = 0,
                        TCHAR key = 0);
     POINT ToLogical(LPARAM lParam) const;
