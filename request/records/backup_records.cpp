@@ -4,19 +4,20 @@
 
 using record_fields::AppendRecords;
 using record_fields::AppendStrings;
-using record_fields::CheckKeys;
+using record_fields::JsonFields;
 using record_fields::RecordArray;
 using record_fields::StringArray;
 using record_fields::StringObject;
 
 std::int32_t BackUpDevice::FromJson(const Json::Value& value)
 {
-    deviceId = value["deviceId"].asString();
-    deviceType = value["deviceType"].asInt();
-    terminalType = value["terminalType"].asString();
-    aliasName = value["aliasName"].asString();
-    devDisplayName = value["devDisplayName"].asString();
-    return CheckKeys(value, {"deviceId", "deviceType", "terminalType", "aliasName", "devDisplayName"});
+    JsonFields in(value);
+    deviceId = in["deviceId"].asString();
+    deviceType = in["deviceType"].asInt();
+    terminalType = in["terminalType"].asString();
+    aliasName = in["aliasName"].asString();
+    devDisplayName = in["devDisplayName"].asString();
+    return in.Check({"deviceId", "deviceType", "terminalType", "aliasName", "devDisplayName"});
 }
 
 Json::Value BackUpDevice::ToJson() const
@@ -32,15 +33,16 @@ Json::Value BackUpDevice::ToJson() const
 
 std::int32_t MkFile::FromJson(const Json::Value& value)
 {
-    name = value["name"].asString();
-    sig = value["sig"].asString();
-    size = value["size"].asString();
-    url = value["url"].asString();
-    ts = value["ts"].asString();
+    JsonFields in(value);
+    name = in["name"].asString();
+    sig = in["sig"].asString();
+    size = in["size"].asString();
+    url = in["url"].asString();
+    ts = in["ts"].asString();
     extParams.clear();
-    ObjectToStringMap(value["extParams"], extParams);
-    needRun = value["needRun"].asBool();
-    return CheckKeys(value, {"name", "sig", "size", "url", "ts", "extParams", "needRun"});
+    ObjectToStringMap(in["extParams"], extParams);
+    needRun = in["needRun"].asBool();
+    return in.Check({"name", "sig", "size", "url", "ts", "extParams", "needRun"});
 }
 
 Json::Value MkFile::ToJson() const
@@ -57,12 +59,13 @@ Json::Value MkFile::ToJson() const
 
 std::int32_t FileInfo::FromJson(const Json::Value& value)
 {
-    hash = value["hash"].asString();
-    fileName = value["fileName"].asString();
-    mkFile.FromJson(value["mkFile"]);
-    isApkOrIcon = value["isApkOrIcon"].asInt();
-    expand = value["expand"].asString();
-    return CheckKeys(value, {"hash", "fileName", "mkFile", "isApkOrIcon", "expand"});
+    JsonFields in(value);
+    hash = in["hash"].asString();
+    fileName = in["fileName"].asString();
+    mkFile.FromJson(in["mkFile"]);
+    isApkOrIcon = in["isApkOrIcon"].asInt();
+    expand = in["expand"].asString();
+    return in.Check({"hash", "fileName", "mkFile", "isApkOrIcon", "expand"});
 }
 
 Json::Value FileInfo::ToJson() const
@@ -78,20 +81,21 @@ Json::Value FileInfo::ToJson() const
 
 std::int32_t AppIdInfo::FromJson(const Json::Value& value)
 {
-    appId = value["appId"].asString();
-    status = value["status"].asInt();
-    size = value["size"].asInt64();
-    createTime = value["createTime"].asInt64();
-    apkType = value["apkType"].asInt();
-    apkPath = value["apkPath"].asString();
-    iconPath = value["iconPath"].asString();
-    apkUrl = value["apkUrl"].asString();
-    iconUrl = value["iconUrl"].asString();
-    extend = value["extend"].asString();
-    AppendRecords(value["fileInfos"], fileInfos);
-    cursor = value["cursor"].asInt();
-    return CheckKeys(value, {"appId", "status", "size", "createTime", "apkType", "apkPath", "iconPath",
-                             "apkUrl", "iconUrl", "extend", "fileInfos", "cursor"});
+    JsonFields in(value);
+    appId = in["appId"].asString();
+    status = in["status"].asInt();
+    size = in["size"].asInt64();
+    createTime = in["createTime"].asInt64();
+    apkType = in["apkType"].asInt();
+    apkPath = in["apkPath"].asString();
+    iconPath = in["iconPath"].asString();
+    apkUrl = in["apkUrl"].asString();
+    iconUrl = in["iconUrl"].asString();
+    extend = in["extend"].asString();
+    AppendRecords(in["fileInfos"], fileInfos);
+    cursor = in["cursor"].asInt();
+    return in.Check({"appId", "status", "size", "createTime", "apkType", "apkPath", "iconPath",
+                     "apkUrl", "iconUrl", "extend", "fileInfos", "cursor"});
 }
 
 Json::Value AppIdInfo::ToJson() const
@@ -114,18 +118,19 @@ Json::Value AppIdInfo::ToJson() const
 
 std::int32_t BackupRecord::FromJson(const Json::Value& value)
 {
-    device.FromJson(value["device"]);
-    status = value["status"].asInt();
-    type = value["type"].asInt();
-    size = value["size"].asInt64();
-    backupId = value["backupId"].asString();
-    backupDeviceId = value["backupDeviceId"].asString();
-    startTime = value["startTime"].asInt64();
-    endTime = value["endTime"].asInt64();
-    extend = value["extend"].asString();
-    AppendRecords(value["appIdInfos"], appIdInfos);
-    return CheckKeys(value, {"device", "status", "type", "size", "backupId", "startTime", "endTime",
-                             "extend", "appIdInfos"});
+    JsonFields in(value);
+    device.FromJson(in["device"]);
+    status = in["status"].asInt();
+    type = in["type"].asInt();
+    size = in["size"].asInt64();
+    backupId = in["backupId"].asString();
+    backupDeviceId = in["backupDeviceId"].asString();
+    startTime = in["startTime"].asInt64();
+    endTime = in["endTime"].asInt64();
+    extend = in["extend"].asString();
+    AppendRecords(in["appIdInfos"], appIdInfos);
+    return in.Check({"device", "status", "type", "size", "backupId", "startTime", "endTime",
+                     "extend", "appIdInfos"});
 }
 
 Json::Value BackupRecord::ToJson() const
@@ -146,10 +151,11 @@ Json::Value BackupRecord::ToJson() const
 
 std::int32_t QueryAllDevicesBackupRecordReqRequest::FromJson(const Json::Value& value)
 {
-    cmd = value["appId"].asInt();
-    info = value["info"].asString();
-    version = value["version"].asString();
-    return CheckKeys(value, {"cmd", "info"});
+    JsonFields in(value);
+    cmd = in["appId"].asInt();
+    info = in["info"].asString();
+    version = in["version"].asString();
+    return in.Check({"cmd", "info"});
 }
 
 Json::Value QueryAllDevicesBackupRecordReqRequest::ToJson() const
@@ -163,10 +169,11 @@ Json::Value QueryAllDevicesBackupRecordReqRequest::ToJson() const
 
 std::int32_t QueryAllBackUpResponse::FromJson(const Json::Value& value)
 {
-    result = value["result"].asInt();
-    info = value["info"].asString();
-    AppendRecords(value["backupRecords"], backupRecords);
-    return CheckKeys(value, {"result", "info", "backupRecords"});
+    JsonFields in(value);
+    result = in["result"].asInt();
+    info = in["info"].asString();
+    AppendRecords(in["backupRecords"], backupRecords);
+    return in.Check({"result", "info", "backupRecords"});
 }
 
 Json::Value QueryAllBackUpResponse::ToJson() const
@@ -180,11 +187,12 @@ Json::Value QueryAllBackUpResponse::ToJson() const
 
 std::int32_t BackUpDeleteRequest::FromJson(const Json::Value& value)
 {
-    cmd = value["cmd"].asInt();
-    info = value["info"].asString();
-    deviceId = value["deviceId"].asString();
-    deviceType = value["deviceType"].asInt();
-    return CheckKeys(value, {"cmd", "info", "deviceId", "deviceType"});
+    JsonFields in(value);
+    cmd = in["cmd"].asInt();
+    info = in["info"].asString();
+    deviceId = in["deviceId"].asString();
+    deviceType = in["deviceType"].asInt();
+    return in.Check({"cmd", "info", "deviceId", "deviceType"});
 }
 
 Json::Value BackUpDeleteRequest::ToJson() const
@@ -199,12 +207,13 @@ Json::Value BackUpDeleteRequest::ToJson() const
 
 std::int32_t DeleteSmsAndCallLogRequest::FromJson(const Json::Value& value)
 {
-    cmd = value["cmd"].asInt();
-    info = value["info"].asString();
-    devId = value["devId"].asString();
-    deviceType = value["deviceType"].asInt();
-    AppendStrings(value["typeList"], typeList);
-    return CheckKeys(value, {"cmd", "info", "devId", "deviceType", "typeList"});
+    JsonFields in(value);
+    cmd = in["cmd"].asInt();
+    info = in["info"].asString();
+    devId = in["devId"].asString();
+    deviceType = in["deviceType"].asInt();
+    AppendStrings(in["typeList"], typeList);
+    return in.Check({"cmd", "info", "devId", "deviceType", "typeList"});
 }
 
 Json::Value DeleteSmsAndCallLogRequest::ToJson() const
@@ -220,11 +229,12 @@ Json::Value DeleteSmsAndCallLogRequest::ToJson() const
 
 std::int32_t QueryBackUpSmsAndCallLogRequest::FromJson(const Json::Value& value)
 {
-    cmd = value["cmd"].asInt();
-    info = value["info"].asString();
-    type = value["type"].asString();
-    AppendRecords(value["deviceList"], deviceList);
-    return CheckKeys(value, {"cmd", "info", "type", "deviceList"});
+    JsonFields in(value);
+    cmd = in["cmd"].asInt();
+    info = in["info"].asString();
+    type = in["type"].asString();
+    AppendRecords(in["deviceList"], deviceList);
+    return in.Check({"cmd", "info", "type", "deviceList"});
 }
 
 Json::Value QueryBackUpSmsAndCallLogRequest::ToJson() const
@@ -239,9 +249,10 @@ Json::Value QueryBackUpSmsAndCallLogRequest::ToJson() const
 
 std::int32_t BackUpSmsAndCallLogRecord::FromJson(const Json::Value& value)
 {
-    device.FromJson(value["device"]);
-    count = value["count"].asInt();
-    return CheckKeys(value, {"device", "count"});
+    JsonFields in(value);
+    device.FromJson(in["device"]);
+    count = in["count"].asInt();
+    return in.Check({"device", "count"});
 }
 
 Json::Value BackUpSmsAndCallLogRecord::ToJson() const
@@ -254,11 +265,12 @@ Json::Value BackUpSmsAndCallLogRecord::ToJson() const
 
 std::int32_t QueryBackUpSmsAndCallLogResponse::FromJson(const Json::Value& value)
 {
-    result = value["result"].asInt();
-    info = value["info"].asString();
-    AppendRecords(value["countRet"], countRet);
-    AppendRecords(value["deviceList"], deviceList);
-    return CheckKeys(value, {"result", "info", "countRet", "deviceList"});
+    JsonFields in(value);
+    result = in["result"].asInt();
+    info = in["info"].asString();
+    AppendRecords(in["countRet"], countRet);
+    AppendRecords(in["deviceList"], deviceList);
+    return in.Check({"result", "info", "countRet", "deviceList"});
 }
 
 Json::Value QueryBackUpSmsAndCallLogResponse::ToJson() const

@@ -8,7 +8,7 @@
 
 using record_fields::AppendRecords;
 using record_fields::AppendStrings;
-using record_fields::CheckKeys;
+using record_fields::JsonFields;
 using record_fields::ReadStringMembers;
 using record_fields::RecordArray;
 using record_fields::StringArray;
@@ -52,11 +52,12 @@ BaseNspFileModel::BaseNspFileModel(const std::string& accessToken, const std::ve
 
 std::int32_t BaseNspFileModel::FromJson(const Json::Value& value)
 {
-    nsp_svc = value["nsp_svc"].asString();
-    paths = value["paths"].asString();
-    cursor = value["_cursor"].asString();
-    access_token = value["access_token"].asString();
-    return CheckKeys(value, {"nsp_svc", "paths", "_cursor", "access_token"});
+    JsonFields in(value);
+    nsp_svc = in["nsp_svc"].asString();
+    paths = in["paths"].asString();
+    cursor = in["_cursor"].asString();
+    access_token = in["access_token"].asString();
+    return in.Check({"nsp_svc", "paths", "_cursor", "access_token"});
 }
 
 Json::Value BaseNspFileModel::ToJson() const
@@ -91,11 +92,12 @@ NspDelFiles::NspDelFiles(const std::string& accessToken, const std::vector<std::
 
 std::int32_t NspDelFiles::FromJson(const Json::Value& value)
 {
-    nsp_svc = value["nsp_svc"].asString();
-    files = value["files"].asString();
-    reserve = value["reserve"].asBool();
-    access_token = value["access_token"].asString();
-    return CheckKeys(value, {"nsp_svc", "access_token", "files", "reserve"});
+    JsonFields in(value);
+    nsp_svc = in["nsp_svc"].asString();
+    files = in["files"].asString();
+    reserve = in["reserve"].asBool();
+    access_token = in["access_token"].asString();
+    return in.Check({"nsp_svc", "access_token", "files", "reserve"});
 }
 
 Json::Value NspDelFiles::ToJson() const
@@ -124,11 +126,12 @@ NspGetAttr::NspGetAttr(const std::string& accessToken, const std::vector<std::st
 
 std::int32_t NspGetAttr::FromJson(const Json::Value& value)
 {
-    nsp_svc = value["nsp_svc"].asString();
-    access_token = value["access_token"].asString();
-    fields = value["fields"].toStyledString();
-    files = value["files"].toStyledString();
-    return CheckKeys(value, {"nsp_svc", "access_token", "fields", "files"});
+    JsonFields in(value);
+    nsp_svc = in["nsp_svc"].asString();
+    access_token = in["access_token"].asString();
+    fields = in["fields"].toStyledString();
+    files = in["files"].toStyledString();
+    return in.Check({"nsp_svc", "access_token", "fields", "files"});
 }
 
 Json::Value NspGetAttr::ToJson() const
@@ -149,14 +152,15 @@ std::string NspGetAttr::ToFormString() const
 
 std::int32_t FolderOrFilesInfo::FromJson(const Json::Value& value)
 {
-    accessTime = value["accessTime"].asString();
-    createTime = value["createTime"].asString();
-    modifyTime = value["modifyTime"].asString();
-    name = value["name"].asString();
-    type = value["type"].asString();
-    size = value["size"].asString();
-    sslUrl = value["sslUrl"].asString();
-    return CheckKeys(value, {"accessTime", "createTime", "modifyTime", "name", "type", "size", "size"});
+    JsonFields in(value);
+    accessTime = in["accessTime"].asString();
+    createTime = in["createTime"].asString();
+    modifyTime = in["modifyTime"].asString();
+    name = in["name"].asString();
+    type = in["type"].asString();
+    size = in["size"].asString();
+    sslUrl = in["sslUrl"].asString();
+    return in.Check({"accessTime", "createTime", "modifyTime", "name", "type", "size", "size"});
 }
 
 Json::Value FolderOrFilesInfo::ToJson() const
@@ -174,12 +178,13 @@ Json::Value FolderOrFilesInfo::ToJson() const
 
 std::int32_t FieldsInfo::FromJson(const Json::Value& value)
 {
-    name = value["name"].asString();
-    type = value["type"].asString();
-    space = value["space"].asString();
-    size = value["size"].asString();
-    fileCount = std::atoi(value["fileCount"].asString().c_str());
-    return CheckKeys(value, {"name", "type", "space", "size", "fileCount"});
+    JsonFields in(value);
+    name = in["name"].asString();
+    type = in["type"].asString();
+    space = in["space"].asString();
+    size = in["size"].asString();
+    fileCount = std::atoi(in["fileCount"].asString().c_str());
+    return in.Check({"name", "type", "space", "size", "fileCount"});
 }
 
 Json::Value FieldsInfo::ToJson() const
@@ -195,10 +200,11 @@ Json::Value FieldsInfo::ToJson() const
 
 std::int32_t NspErrorInfo::FromJson(const Json::Value& value)
 {
-    errCode = value["errCode"].asInt();
-    errMsg = value["errMsg"].asString();
-    name = value["name"].asString();
-    return CheckKeys(value, {"errCode", "errMsg", "name"});
+    JsonFields in(value);
+    errCode = in["errCode"].asInt();
+    errMsg = in["errMsg"].asString();
+    name = in["name"].asString();
+    return in.Check({"errCode", "errMsg", "name"});
 }
 
 Json::Value NspErrorInfo::ToJson() const
@@ -212,9 +218,10 @@ Json::Value NspErrorInfo::ToJson() const
 
 std::int32_t NSPResponse::FromJson(const Json::Value& value)
 {
-    AppendRecords(value["successList"], successList);
-    AppendRecords(value["failList"], failList);
-    return CheckKeys(value, {"successList", "failList"});
+    JsonFields in(value);
+    AppendRecords(in["successList"], successList);
+    AppendRecords(in["failList"], failList);
+    return in.Check({"successList", "failList"});
 }
 
 Json::Value NSPResponse::ToJson() const
@@ -227,10 +234,11 @@ Json::Value NSPResponse::ToJson() const
 
 std::int32_t NSPFilesResponse::FromJson(const Json::Value& value)
 {
-    cursor = value["cursor"].asString();
+    JsonFields in(value);
+    cursor = in["cursor"].asString();
     ReadListIfPresent(value, "fileList", fileList);
     ReadListIfPresent(value, "failList", failList);
-    return CheckKeys(value, {"cursor", "fileList", "failList"});
+    return in.Check({"cursor", "fileList", "failList"});
 }
 
 Json::Value NSPFilesResponse::ToJson() const
@@ -244,9 +252,10 @@ Json::Value NSPFilesResponse::ToJson() const
 
 std::int32_t NSPFoldersResponse::FromJson(const Json::Value& value)
 {
+    JsonFields in(value);
     ReadListIfPresent(value, "successList", successList);
     ReadListIfPresent(value, "failList", failList);
-    return CheckKeys(value, {"successList", "failList"});
+    return in.Check({"successList", "failList"});
 }
 
 Json::Value NSPFoldersResponse::ToJson() const
@@ -259,13 +268,14 @@ Json::Value NSPFoldersResponse::ToJson() const
 
 std::int32_t UpLoadFiles::FromJson(const Json::Value& value)
 {
-    cmd = value["cmd"].asString();
-    host = value["host"].asString();
-    ReadStringMembers(value["mapUrlHeaders"], mapUrlHeaders);
-    ReadStringMembers(value["mapUrlParams"], mapUrlParams);
-    method = value["method"].asString();
-    objectId = value["objectId"].asString();
-    return CheckKeys(value, {"cmd", "host", "mapUrlHeaders", "mapUrlParams", "method", "clientIp", "objectId"});
+    JsonFields in(value);
+    cmd = in["cmd"].asString();
+    host = in["host"].asString();
+    ReadStringMembers(in["mapUrlHeaders"], mapUrlHeaders);
+    ReadStringMembers(in["mapUrlParams"], mapUrlParams);
+    method = in["method"].asString();
+    objectId = in["objectId"].asString();
+    return in.Check({"cmd", "host", "mapUrlHeaders", "mapUrlParams", "method", "clientIp", "objectId"});
 }
 
 Json::Value UpLoadFiles::ToJson() const
@@ -282,12 +292,13 @@ Json::Value UpLoadFiles::ToJson() const
 
 std::int32_t QueryAlbumInfo::FromJson(const Json::Value& value)
 {
-    cmd = value["cmd"].asString();
-    AppendStrings(value["albumType"], albumType);
-    albumId = value["albumId"].asString();
-    maxNum = value["maxNum"].asInt();
-    cursor = value["cursor"].asString();
-    return CheckKeys(value, {"cmd", "albumType", "albumId", "maxNum", "cursor"});
+    JsonFields in(value);
+    cmd = in["cmd"].asString();
+    AppendStrings(in["albumType"], albumType);
+    albumId = in["albumId"].asString();
+    maxNum = in["maxNum"].asInt();
+    cursor = in["cursor"].asString();
+    return in.Check({"cmd", "albumType", "albumId", "maxNum", "cursor"});
 }
 
 Json::Value QueryAlbumInfo::ToJson() const

@@ -4,21 +4,22 @@
 
 using record_fields::AppendRecords;
 using record_fields::AppendStrings;
-using record_fields::CheckKeys;
+using record_fields::JsonFields;
 using record_fields::RecordArray;
 
 std::int32_t QuotaDetail::FromJson(const Json::Value& value)
 {
-    statistics = value["statistics"].asString();
-    serviceType = value["serviceType"].asInt64();
-    recordsQuotadSpace = value["recordsQuotadSpace"].asInt64();
-    assetsQuotadSpace = value["assetsQuotadSpace"].asInt64();
-    appId = value["appId"].asString();
-    collection = value["collection"].asString();
-    trashed = value["trashed"].asBool();
-    parentId = value["parentId"].asString();
-    return CheckKeys(value, {"statistics", "serviceType", "recordsQuotadSpace", "assetsQuotadSpace",
-                             "appId", "collection", "trashed", "parentId"});
+    JsonFields in(value);
+    statistics = in["statistics"].asString();
+    serviceType = in["serviceType"].asInt64();
+    recordsQuotadSpace = in["recordsQuotadSpace"].asInt64();
+    assetsQuotadSpace = in["assetsQuotadSpace"].asInt64();
+    appId = in["appId"].asString();
+    collection = in["collection"].asString();
+    trashed = in["trashed"].asBool();
+    parentId = in["parentId"].asString();
+    return in.Check({"statistics", "serviceType", "recordsQuotadSpace", "assetsQuotadSpace",
+                     "appId", "collection", "trashed", "parentId"});
 }
 
 Json::Value QuotaDetail::ToJson() const
@@ -37,10 +38,11 @@ Json::Value QuotaDetail::ToJson() const
 
 std::int32_t GetQuotaUsedInfoResponse::FromJson(const Json::Value& value)
 {
-    retCode = value["retCode"].asInt();
-    used = value["used"].asInt64();
-    AppendRecords(value["quotaDetails"], quotaDetails);
-    return CheckKeys(value, {"retCode", "used", "quotaDetails"});
+    JsonFields in(value);
+    retCode = in["retCode"].asInt();
+    used = in["used"].asInt64();
+    AppendRecords(in["quotaDetails"], quotaDetails);
+    return in.Check({"retCode", "used", "quotaDetails"});
 }
 
 Json::Value GetQuotaUsedInfoResponse::ToJson() const
@@ -54,19 +56,20 @@ Json::Value GetQuotaUsedInfoResponse::ToJson() const
 
 std::int32_t QuotaDetailBk::FromJson(const Json::Value& value)
 {
-    serviceType = value["serviceType"].asInt64();
-    snapShotType = value["snapShotType"].asInt64();
-    collection = value["collection"].asString();
-    statisticsType = value["statisticsType"].asInt64();
-    deviceId = value["deviceId"].asString();
-    recordsCount = value["recordsCount"].asInt64();
-    recordsQuotadSpace = value["recordsQuotadSpace"].asInt64();
-    assetsQuotadSpace = value["assetsQuotadSpace"].asInt64();
-    statistics = value["statistics"].asString();
-    trashed = value["trashed"].asString();
-    kind = value["kind"].asString();
-    return CheckKeys(value, {"statistics", "serviceType", "recordsQuotadSpace", "assetsQuotadSpace",
-                             "deviceId", "collection"});
+    JsonFields in(value);
+    serviceType = in["serviceType"].asInt64();
+    snapShotType = in["snapShotType"].asInt64();
+    collection = in["collection"].asString();
+    statisticsType = in["statisticsType"].asInt64();
+    deviceId = in["deviceId"].asString();
+    recordsCount = in["recordsCount"].asInt64();
+    recordsQuotadSpace = in["recordsQuotadSpace"].asInt64();
+    assetsQuotadSpace = in["assetsQuotadSpace"].asInt64();
+    statistics = in["statistics"].asString();
+    trashed = in["trashed"].asString();
+    kind = in["kind"].asString();
+    return in.Check({"statistics", "serviceType", "recordsQuotadSpace", "assetsQuotadSpace",
+                     "deviceId", "collection"});
 }
 
 Json::Value QuotaDetailBk::ToJson() const
@@ -88,10 +91,11 @@ Json::Value QuotaDetailBk::ToJson() const
 
 std::int32_t GetQuotaUsedInfoResponseBk::FromJson(const Json::Value& value)
 {
-    retCode = value["retCode"].asInt();
-    used = value["used"].asInt64();
-    AppendRecords(value["quotaDetails"], quotaDetails);
-    return CheckKeys(value, {"retCode", "used", "quotaDetails"});
+    JsonFields in(value);
+    retCode = in["retCode"].asInt();
+    used = in["used"].asInt64();
+    AppendRecords(in["quotaDetails"], quotaDetails);
+    return in.Check({"retCode", "used", "quotaDetails"});
 }
 
 Json::Value GetQuotaUsedInfoResponseBk::ToJson() const
@@ -105,9 +109,10 @@ Json::Value GetQuotaUsedInfoResponseBk::ToJson() const
 
 std::int32_t GetSpaceFromUrl::FromJson(const Json::Value& value)
 {
-    retCode = value["retCode"].asInt();
-    used = value["used"].asInt64();
-    return CheckKeys(value, {"retCode", "used"});
+    JsonFields in(value);
+    retCode = in["retCode"].asInt();
+    used = in["used"].asInt64();
+    return in.Check({"retCode", "used"});
 }
 
 Json::Value GetSpaceFromUrl::ToJson() const
@@ -120,9 +125,10 @@ Json::Value GetSpaceFromUrl::ToJson() const
 
 std::int32_t DataObject::FromJson(const Json::Value& value)
 {
-    source = value["source"].asString();
-    sumNum = value["sumNum"].asInt();
-    return CheckKeys(value, {"source", "sumNum"});
+    JsonFields in(value);
+    source = in["source"].asString();
+    sumNum = in["sumNum"].asInt();
+    return in.Check({"source", "sumNum"});
 }
 
 Json::Value DataObject::ToJson() const
@@ -135,9 +141,10 @@ Json::Value DataObject::ToJson() const
 
 std::int32_t ResultObject::FromJson(const Json::Value& value)
 {
-    code = value["errorNo"].asInt();
-    info = value["info"].asString();
-    return CheckKeys(value, {"code", "info"});
+    JsonFields in(value);
+    code = in["errorNo"].asInt();
+    info = in["info"].asString();
+    return in.Check({"code", "info"});
 }
 
 Json::Value ResultObject::ToJson() const
@@ -161,6 +168,7 @@ std::int32_t StatisticResponse::FromJson(const Json::Value& value)
     return 0;
 }
 
+
 Json::Value StatisticResponse::ToJson() const
 {
     Json::Value value;
@@ -171,9 +179,10 @@ Json::Value StatisticResponse::ToJson() const
 
 std::int32_t BaseRsp::FromJson(const Json::Value& value)
 {
-    result = value["result"].asInt();
-    info = value["info"].asString();
-    return CheckKeys(value, {"result", "info"});
+    JsonFields in(value);
+    result = in["result"].asInt();
+    info = in["info"].asString();
+    return in.Check({"result", "info"});
 }
 
 Json::Value BaseRsp::ToJson() const
@@ -186,9 +195,10 @@ Json::Value BaseRsp::ToJson() const
 
 std::int32_t BaseResult::FromJson(const Json::Value& value)
 {
-    errorNo = value["errorNo"].asInt();
-    scenarioId = value["scenarioId"].asString();
-    return CheckKeys(value, {"errorNo", "scenarioId"});
+    JsonFields in(value);
+    errorNo = in["errorNo"].asInt();
+    scenarioId = in["scenarioId"].asString();
+    return in.Check({"errorNo", "scenarioId"});
 }
 
 Json::Value BaseResult::ToJson() const
@@ -201,19 +211,20 @@ Json::Value BaseResult::ToJson() const
 
 std::int32_t AboutResponse::FromJson(const Json::Value& value)
 {
-    category = value["category"].asString();
-    dataVersion = value["dataVersion"].asString();
-    domain = value["domain"].asString();
-    maxBatchNumber = value["maxBatchNumber"].asInt();
-    maxFileUploadSize = value["maxFileUploadSize"].asString();
-    maxThumbnailSize = value["maxThumbnailSize"].asInt64();
-    serverTime = value["serverTime"].asInt64();
-    const Json::Value& statusValue = value["status"];
+    JsonFields in(value);
+    category = in["category"].asString();
+    dataVersion = in["dataVersion"].asString();
+    domain = in["domain"].asString();
+    maxBatchNumber = in["maxBatchNumber"].asInt();
+    maxFileUploadSize = in["maxFileUploadSize"].asString();
+    maxThumbnailSize = in["maxThumbnailSize"].asInt64();
+    serverTime = in["serverTime"].asInt64();
+    const Json::Value& statusValue = in["status"];
     for (const std::string& name : statusValue.getMemberNames()) {
         status[name] = statusValue[name].toStyledString();
     }
-    return CheckKeys(value, {"category", "dataVersion", "domain", "maxBatchNumber", "maxFileUploadSize",
-                             "maxThumbnailSize", "serverTime", "status"});
+    return in.Check({"category", "dataVersion", "domain", "maxBatchNumber", "maxFileUploadSize",
+                     "maxThumbnailSize", "serverTime", "status"});
 }
 
 Json::Value AboutResponse::ToJson() const
@@ -233,12 +244,13 @@ Json::Value AboutResponse::ToJson() const
 
 std::int32_t GetPimDataVersionResponse::FromJson(const Json::Value& value)
 {
-    maxBatchNumber = value["maxBatchNumber"].asInt();
-    const Json::Value& statusValue = value["status"];
+    JsonFields in(value);
+    maxBatchNumber = in["maxBatchNumber"].asInt();
+    const Json::Value& statusValue = in["status"];
     v2cut = statusValue["v2cut"].asInt();
-    AppendStrings(value["kinds"], kinds);
-    dataVersion = value["dataVersion"].asString();
-    return CheckKeys(value, {"status", "dataVersion"});
+    AppendStrings(in["kinds"], kinds);
+    dataVersion = in["dataVersion"].asString();
+    return in.Check({"status", "dataVersion"});
 }
 
 Json::Value GetPimDataVersionResponse::ToJson() const

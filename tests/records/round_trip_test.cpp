@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <ostream>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -39,6 +40,8 @@ RoundTripRow Row(const char* name, std::function<void(Record&)> fill, std::strin
                         [] { return std::static_pointer_cast<SerializableObject>(std::make_shared<Record>()); },
                         std::move(written), readResult, std::move(rewritten)};
 }
+
+void PrintTo(const RoundTripRow& row, std::ostream* out) { *out << row.name; }
 
 class RoundTrip : public ::testing::TestWithParam<RoundTripRow> {};
 

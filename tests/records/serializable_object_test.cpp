@@ -1,5 +1,6 @@
 #include <map>
 #include <memory>
+#include <ostream>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -166,6 +167,8 @@ struct StringMapRow {
     const char* json;
     std::map<std::string, std::string> expected;
 };
+
+void PrintTo(const StringMapRow& row, std::ostream* out) { *out << row.name; }
 
 class ObjectToStringMapTable : public ::testing::TestWithParam<StringMapRow> {};
 

@@ -4,6 +4,7 @@
 // from a reply through ReadRecord, the way the exchange does.
 
 #include <functional>
+#include <ostream>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -19,6 +20,8 @@ struct MismatchRow {
     const char* name;
     std::function<void()> check;
 };
+
+void PrintTo(const MismatchRow& row, std::ostream* out) { *out << row.name; }
 
 class TypeMismatch : public ::testing::TestWithParam<MismatchRow> {};
 
