@@ -44,7 +44,7 @@ bool CNotifyPump::LoopDispatch(TNotifyUI& msg)
             if (msg.sType != entry->sMsgType) continue;
             const bool anySender = entry->sCtrlName == nullptr || entry->sCtrlName[0] == 0;
             if (!anySender && senderName != entry->sCtrlName) continue;
-            (this->*(entry->pfn))(msg);
+            entry->pfn(this, msg);
             return true;
         }
     }

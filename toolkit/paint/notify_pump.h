@@ -18,7 +18,24 @@
 namespace DuiLib {
 
 class CNotifyPump;
-using DUI_PMSG = void (CNotifyPump::*)(TNotifyUI& msg);
+// A map entry calls its handler through a small function made for the
+// handler's own class, so no member pointer is ever converted between
+// classes.
+using DUI_PMSG = void (*)(CNotifyPump* pump, TNotifyUI& msg);
+
+template <class T>
+struct NotifyHandlerClass;
+template <class C>
+struct NotifyHandlerClass<void (C::*)(TNotifyUI&)> {
+    using type = C;
+};
+
+template <auto Handler>
+void CallNotifyHandler(CNotifyPump* pump, TNotifyUI& msg)
+{
+    using Class = typename NotifyHandlerClass<decltype(Handler)>::type;
+    (static_cast<Class*>(pump)->*Handler)(msg);
+}
 
 struct DUI_MSGMAP_ENTRY {
     LPCTSTR sMsgType;   // notification type
@@ -76,12 +93,12 @@ protected:                                                          \
     };
 
 #define DUI_ON_MSGTYPE(msgtype, memberFxn) \
-    {msgtype, L"", static_cast<::DuiLib::DUI_PMSG>(&memberFxn)},
+    {msgtype, L"", &::DuiLib::CallNotifyHandler<&memberFxn>},
 
 #define DUI_ON_MSGTYPE_CTRNAME(msgtype, ctrname, memberFxn) \
-    {msgtype, ctrname, static_cast<::DuiLib::DUI_PMSG>(&memberFxn)},
+    {msgtype, ctrname, &::DuiLib::CallNotifyHandler<&memberFxn>},
 
 #define DUI_ON_CLICK_CTRNAME(ctrname, memberFxn) \
-    {DUI_MSGTYPE_CLICK, ctrname, static_cast<::DuiLib::DUI_PMSG>(&memberFxn)},
+    {DUI_MSGTYPE_CLICK, ctrname, &::DuiLib::CallNotifyHandler<&memberFxn>},
 
 }  // namespace DuiLib

@@ -212,3 +212,11 @@ std::string OutputPath(const std::string& fileName)
 }
 
 }  // namespace uitest
+
+// fontconfig keeps its font caches until the process ends and hides the
+// pointers to them, so LeakSanitizer reports them as leaked; they are not
+// ours to free.
+extern "C" const char* __lsan_default_suppressions()
+{
+    return "leak:libfontconfig.so\n";
+}
