@@ -315,3 +315,28 @@ TEST_F(WindowTest, PreMessageFilterCanTakeAMessage)
     w.Close(0);
     Pump(10);
 }
+
+TEST_F(WindowTest, TabSelectionFromAnotherThreadRunsOnTheWindowThread)
+{
+    SkinWindow w(LR"(<Window size="100,50"><TabLayout name="tabs"><Control /><Control /></TabLayout></Window>)");
+    ASSERT_TRUE(Open(w));
+    const DWORD windowThread = ::GetCurrentThreadId();
+    DWORD notifiedOn = 0;
+    w.onNotify = [&notifiedOn](TNotifyUI& msg) {
+        if (msg.sType == L"tabselect") notifiedOn = ::GetCurrentThreadId();
+    };
+    auto* tabs = Find<CTabLayoutUI>(w.pm(), L"tabs");
+    std::atomic<bool> done{false};
+    std::atomic<bool> selected{false};
+    std::thread watcher([&] {
+        selected = tabs->SelectItem(1);
+        done = true;
+    });
+    EXPECT_TRUE(PumpUntil([&done] { return done.load(); }, 2000));
+    watcher.join();
+    EXPECT_TRUE(selected.load());
+    EXPECT_EQ(tabs->GetCurSel(), 1);
+    EXPECT_EQ(notifiedOn, windowThread);
+    w.Close(0);
+    Pump(10);
+}

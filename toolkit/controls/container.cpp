@@ -436,6 +436,13 @@ void CTabLayoutUI::RemoveAll()
 
 bool CTabLayoutUI::SelectItem(int iIndex)
 {
+    // Page switches may come from worker threads (a network watcher); the
+    // tree is only ever changed on the window's thread.
+    if (m_pManager != nullptr && !m_pManager->IsWindowThread()) {
+        bool selected = false;
+        m_pManager->RunOnWindowThread([this, iIndex, &selected] { selected = SelectItem(iIndex); });
+        return selected;
+    }
     if (iIndex < 0 || iIndex >= GetCount()) return false;
     if (iIndex == m_iCurSel) return true;
     const int old = m_iCurSel;

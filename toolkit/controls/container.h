@@ -169,6 +169,7 @@ public:
     int GetCurSel() const { return m_iCurSel; }
     // Shows page iIndex and hides the others; false for an index out of
     // range. Raises "tabselect" (wParam new, lParam old) when it changed.
+    // Called from another thread, it runs on the window's thread and waits.
     virtual bool SelectItem(int iIndex);
     bool SelectItem(CControlUI* pControl);
     void SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue) override;

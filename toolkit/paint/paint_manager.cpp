@@ -11,6 +11,7 @@
 #include "toolkit/controls/container.h"
 #include "toolkit/paint/ui_messages.h"
 #include "toolkit/render/render_context.h"
+#include "toolkit/win32/message_queue.h"
 
 namespace DuiLib {
 
@@ -337,6 +338,11 @@ bool CPaintManagerUI::MessageHandler(UINT uMsg, WPARAM wParam, LPARAM lParam, LR
             handled = true;
             break;
         }
+        case UIMSG_RUN_ON_WINDOW_THREAD:
+            (*reinterpret_cast<const std::function<void()>*>(lParam))();
+            lRes = 1;
+            handled = true;
+            break;
         case WM_PAINT:
             m_bPaintPosted = false;
             Paint();
@@ -689,6 +695,20 @@ void CPaintManagerUI::KillTimer(CControlUI* pControl)
             ++it;
         }
     }
+}
+
+bool CPaintManagerUI::IsWindowThread() const
+{
+    return m_hWndPaint == nullptr || ::GetWindowThreadProcessId(m_hWndPaint, nullptr) == ::GetCurrentThreadId();
+}
+
+bool CPaintManagerUI::RunOnWindowThread(const std::function<void()>& work)
+{
+    if (IsWindowThread()) {
+        work();
+        return true;
+    }
+    return ::SendMessageW(m_hWndPaint, UIMSG_RUN_ON_WINDOW_THREAD, 0, reinterpret_cast<LPARAM>(&work)) != 0;
 }
 
 bool CPaintManagerUI::IsInTree(const CControlUI* pControl) const

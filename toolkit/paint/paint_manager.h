@@ -7,6 +7,7 @@
 // Everything here runs on the window's thread. Coordinates of window
 // messages are client device pixels; controls live in logical units.
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <vector>
@@ -148,6 +149,12 @@ public:
     bool SetTimer(CControlUI* pControl, UINT nTimerID, UINT uElapse);
     bool KillTimer(CControlUI* pControl, UINT nTimerID);
     void KillTimer(CControlUI* pControl);
+
+    // Runs `work` on the window's thread: at once when called there,
+    // otherwise through SendMessageW, waiting for it. Returns false (and
+    // runs nothing) when the window is gone.
+    bool RunOnWindowThread(const std::function<void()>& work);
+    bool IsWindowThread() const;
 
     // True while `pControl` is in this manager's tree.
     bool IsInTree(const CControlUI* pControl) const;

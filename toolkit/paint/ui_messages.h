@@ -13,5 +13,7 @@ constexpr UINT UIMSG_MOVEWINDOW = 0x7FF1;
 // GetClientRect / GetWindowRect: lParam points to the RECT to fill.
 constexpr UINT UIMSG_GETCLIENTRECT = 0x7FF2;
 constexpr UINT UIMSG_GETWINDOWRECT = 0x7FF3;
+// CPaintManagerUI::RunOnWindowThread: lParam points to the function to run.
+constexpr UINT UIMSG_RUN_ON_WINDOW_THREAD = 0x7FF4;
 
 }  // namespace DuiLib
