@@ -156,8 +156,12 @@ Refusal CheckCommon(const httplib::Request& req, const Session& session)
         return Refuse(400, "x-zp-device-id: not the configured device UUID");
     if (auto r = ExpectExact(req, "x-zp-deviceUUID", uuid))
         return r;
-    if (req.get_header_value_count("x-zp-device-name") != 1)
-        return Refuse(400, "x-zp-device-name: missing");
+    // The device name is the machine model, which is empty on machines that
+    // do not report one; the client then sends the header with an empty
+    // value, and the HTTP parser drops such headers. Absence is therefore
+    // accepted; a repeated header is not.
+    if (req.get_header_value_count("x-zp-device-name") > 1)
+        return Refuse(400, "x-zp-device-name: repeated");
     if (!session.userId.empty())
         if (auto r = ExpectExact(req, "userId", session.userId))
             return r;
