@@ -11,7 +11,7 @@ using record_fields::StringObject;
 
 std::int32_t BackUpDevice::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     deviceId = in["deviceId"].asString();
     deviceType = in["deviceType"].asInt();
     terminalType = in["terminalType"].asString();
@@ -33,7 +33,7 @@ Json::Value BackUpDevice::ToJson() const
 
 std::int32_t MkFile::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     name = in["name"].asString();
     sig = in["sig"].asString();
     size = in["size"].asString();
@@ -59,7 +59,7 @@ Json::Value MkFile::ToJson() const
 
 std::int32_t FileInfo::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     hash = in["hash"].asString();
     fileName = in["fileName"].asString();
     mkFile.FromJson(in["mkFile"]);
@@ -81,7 +81,7 @@ Json::Value FileInfo::ToJson() const
 
 std::int32_t AppIdInfo::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     appId = in["appId"].asString();
     status = in["status"].asInt();
     size = in["size"].asInt64();
@@ -118,7 +118,7 @@ Json::Value AppIdInfo::ToJson() const
 
 std::int32_t BackupRecord::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     device.FromJson(in["device"]);
     status = in["status"].asInt();
     type = in["type"].asInt();
@@ -151,7 +151,7 @@ Json::Value BackupRecord::ToJson() const
 
 std::int32_t QueryAllDevicesBackupRecordReqRequest::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     cmd = in["appId"].asInt();
     info = in["info"].asString();
     version = in["version"].asString();
@@ -169,7 +169,7 @@ Json::Value QueryAllDevicesBackupRecordReqRequest::ToJson() const
 
 std::int32_t QueryAllBackUpResponse::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     result = in["result"].asInt();
     info = in["info"].asString();
     AppendRecords(in["backupRecords"], backupRecords);
@@ -187,7 +187,7 @@ Json::Value QueryAllBackUpResponse::ToJson() const
 
 std::int32_t BackUpDeleteRequest::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     cmd = in["cmd"].asInt();
     info = in["info"].asString();
     deviceId = in["deviceId"].asString();
@@ -207,7 +207,7 @@ Json::Value BackUpDeleteRequest::ToJson() const
 
 std::int32_t DeleteSmsAndCallLogRequest::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     cmd = in["cmd"].asInt();
     info = in["info"].asString();
     devId = in["devId"].asString();
@@ -229,7 +229,7 @@ Json::Value DeleteSmsAndCallLogRequest::ToJson() const
 
 std::int32_t QueryBackUpSmsAndCallLogRequest::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     cmd = in["cmd"].asInt();
     info = in["info"].asString();
     type = in["type"].asString();
@@ -249,7 +249,7 @@ Json::Value QueryBackUpSmsAndCallLogRequest::ToJson() const
 
 std::int32_t BackUpSmsAndCallLogRecord::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     device.FromJson(in["device"]);
     count = in["count"].asInt();
     return in.Check({"device", "count"});
@@ -265,7 +265,7 @@ Json::Value BackUpSmsAndCallLogRecord::ToJson() const
 
 std::int32_t QueryBackUpSmsAndCallLogResponse::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     result = in["result"].asInt();
     info = in["info"].asString();
     AppendRecords(in["countRet"], countRet);

@@ -52,7 +52,7 @@ BaseNspFileModel::BaseNspFileModel(const std::string& accessToken, const std::ve
 
 std::int32_t BaseNspFileModel::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     nsp_svc = in["nsp_svc"].asString();
     paths = in["paths"].asString();
     cursor = in["_cursor"].asString();
@@ -92,7 +92,7 @@ NspDelFiles::NspDelFiles(const std::string& accessToken, const std::vector<std::
 
 std::int32_t NspDelFiles::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     nsp_svc = in["nsp_svc"].asString();
     files = in["files"].asString();
     reserve = in["reserve"].asBool();
@@ -126,7 +126,7 @@ NspGetAttr::NspGetAttr(const std::string& accessToken, const std::vector<std::st
 
 std::int32_t NspGetAttr::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     nsp_svc = in["nsp_svc"].asString();
     access_token = in["access_token"].asString();
     fields = in["fields"].toStyledString();
@@ -152,7 +152,7 @@ std::string NspGetAttr::ToFormString() const
 
 std::int32_t FolderOrFilesInfo::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     accessTime = in["accessTime"].asString();
     createTime = in["createTime"].asString();
     modifyTime = in["modifyTime"].asString();
@@ -178,7 +178,7 @@ Json::Value FolderOrFilesInfo::ToJson() const
 
 std::int32_t FieldsInfo::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     name = in["name"].asString();
     type = in["type"].asString();
     space = in["space"].asString();
@@ -200,7 +200,7 @@ Json::Value FieldsInfo::ToJson() const
 
 std::int32_t NspErrorInfo::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     errCode = in["errCode"].asInt();
     errMsg = in["errMsg"].asString();
     name = in["name"].asString();
@@ -218,7 +218,7 @@ Json::Value NspErrorInfo::ToJson() const
 
 std::int32_t NSPResponse::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     AppendRecords(in["successList"], successList);
     AppendRecords(in["failList"], failList);
     return in.Check({"successList", "failList"});
@@ -234,7 +234,7 @@ Json::Value NSPResponse::ToJson() const
 
 std::int32_t NSPFilesResponse::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     cursor = in["cursor"].asString();
     ReadListIfPresent(value, "fileList", fileList);
     ReadListIfPresent(value, "failList", failList);
@@ -252,7 +252,7 @@ Json::Value NSPFilesResponse::ToJson() const
 
 std::int32_t NSPFoldersResponse::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     ReadListIfPresent(value, "successList", successList);
     ReadListIfPresent(value, "failList", failList);
     return in.Check({"successList", "failList"});
@@ -268,7 +268,7 @@ Json::Value NSPFoldersResponse::ToJson() const
 
 std::int32_t UpLoadFiles::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     cmd = in["cmd"].asString();
     host = in["host"].asString();
     ReadStringMembers(in["mapUrlHeaders"], mapUrlHeaders);
@@ -292,7 +292,7 @@ Json::Value UpLoadFiles::ToJson() const
 
 std::int32_t QueryAlbumInfo::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     cmd = in["cmd"].asString();
     AppendStrings(in["albumType"], albumType);
     albumId = in["albumId"].asString();

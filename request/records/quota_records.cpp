@@ -9,7 +9,7 @@ using record_fields::RecordArray;
 
 std::int32_t QuotaDetail::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     statistics = in["statistics"].asString();
     serviceType = in["serviceType"].asInt64();
     recordsQuotadSpace = in["recordsQuotadSpace"].asInt64();
@@ -38,7 +38,7 @@ Json::Value QuotaDetail::ToJson() const
 
 std::int32_t GetQuotaUsedInfoResponse::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     retCode = in["retCode"].asInt();
     used = in["used"].asInt64();
     AppendRecords(in["quotaDetails"], quotaDetails);
@@ -56,7 +56,7 @@ Json::Value GetQuotaUsedInfoResponse::ToJson() const
 
 std::int32_t QuotaDetailBk::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     serviceType = in["serviceType"].asInt64();
     snapShotType = in["snapShotType"].asInt64();
     collection = in["collection"].asString();
@@ -91,7 +91,7 @@ Json::Value QuotaDetailBk::ToJson() const
 
 std::int32_t GetQuotaUsedInfoResponseBk::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     retCode = in["retCode"].asInt();
     used = in["used"].asInt64();
     AppendRecords(in["quotaDetails"], quotaDetails);
@@ -109,7 +109,7 @@ Json::Value GetQuotaUsedInfoResponseBk::ToJson() const
 
 std::int32_t GetSpaceFromUrl::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     retCode = in["retCode"].asInt();
     used = in["used"].asInt64();
     return in.Check({"retCode", "used"});
@@ -125,7 +125,7 @@ Json::Value GetSpaceFromUrl::ToJson() const
 
 std::int32_t DataObject::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     source = in["source"].asString();
     sumNum = in["sumNum"].asInt();
     return in.Check({"source", "sumNum"});
@@ -141,7 +141,7 @@ Json::Value DataObject::ToJson() const
 
 std::int32_t ResultObject::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     code = in["errorNo"].asInt();
     info = in["info"].asString();
     return in.Check({"code", "info"});
@@ -179,7 +179,7 @@ Json::Value StatisticResponse::ToJson() const
 
 std::int32_t BaseRsp::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     result = in["result"].asInt();
     info = in["info"].asString();
     return in.Check({"result", "info"});
@@ -195,7 +195,7 @@ Json::Value BaseRsp::ToJson() const
 
 std::int32_t BaseResult::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     errorNo = in["errorNo"].asInt();
     scenarioId = in["scenarioId"].asString();
     return in.Check({"errorNo", "scenarioId"});
@@ -211,7 +211,7 @@ Json::Value BaseResult::ToJson() const
 
 std::int32_t AboutResponse::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     category = in["category"].asString();
     dataVersion = in["dataVersion"].asString();
     domain = in["domain"].asString();
@@ -244,7 +244,7 @@ Json::Value AboutResponse::ToJson() const
 
 std::int32_t GetPimDataVersionResponse::FromJson(const Json::Value& value)
 {
-    JsonFields in(value);
+    const JsonFields in(value);
     maxBatchNumber = in["maxBatchNumber"].asInt();
     const Json::Value& statusValue = in["status"];
     v2cut = statusValue["v2cut"].asInt();

@@ -29,22 +29,34 @@ inline std::int32_t CheckKeys(const Json::Value& value, std::initializer_list<co
     return 0;
 }
 
-// The keys of one JSON object as a record reads them. `fields["key"]` is
-// `value["key"]` on a constant value (null for an absent key, a jsoncpp
-// exception when the value is neither an object nor null), and it remembers
-// whether the key was there, so that Check answers isMember for the keys
-// already read without a second lookup. A large reply is mostly key lookups;
-// this halves them. Keys are kept by pointer: pass literals.
+// The keys of one JSON object as a record reads them. `in["key"]` is
+// `value["key"]` on a constant value (the member, null for an absent key, a
+// jsoncpp exception when the value is neither an object nor null), and
+// `in.Check` is isMember over a check list. Decoding a large reply is mostly
+// key lookups, and jsoncpp's lookup walks a tree of string comparisons; the
+// members of a record-sized object are therefore listed once and matched by
+// length and bytes. Larger objects use jsoncpp's own lookup.
 class JsonFields {
 public:
-    explicit JsonFields(const Json::Value& value) : value_(value) {}
-
-    const Json::Value& operator[](const char* key)
+    explicit JsonFields(const Json::Value& value) : value_(value)
     {
-        const Json::Value* found = value_.find(key, key + std::strlen(key));
-        if (count_ < seen_.size()) {
-            seen_[count_++] = Seen{key, found != nullptr};
+        if (value.type() != Json::objectValue || value.size() > members_.size()) {
+            return;
         }
+        for (auto member = value.begin(); member != value.end(); ++member) {
+            const char* end = nullptr;
+            const char* name = member.memberName(&end);
+            members_[memberCount_++] = Member{name, static_cast<std::size_t>(end - name), &*member};
+        }
+        listed_ = true;
+    }
+    // The reader refers to the value; a temporary would be gone before the
+    // first read.
+    explicit JsonFields(Json::Value&&) = delete;
+
+    const Json::Value& operator[](const char* key) const
+    {
+        const Json::Value* found = Find(key);
         return found != nullptr ? *found : Json::Value::nullSingleton();
     }
 
@@ -52,7 +64,7 @@ public:
     std::int32_t Check(std::initializer_list<const char*> keys) const
     {
         for (const char* key : keys) {
-            if (!IsMember(key)) {
+            if (Find(key) == nullptr) {
                 return -1;
             }
         }
@@ -60,31 +72,31 @@ public:
     }
 
 private:
-    struct Seen {
-        const char* key;
-        bool present;
+    struct Member {
+        const char* name;
+        std::size_t length;
+        const Json::Value* value;
     };
 
-    bool IsMember(const char* key) const
+    const Json::Value* Find(const char* key) const
     {
-        // Check lists name the same literals as the reads, so the pointer
-        // almost always matches; the text comparison covers the rest.
-        for (std::size_t index = 0; index < count_; ++index) {
-            if (seen_[index].key == key) {
-                return seen_[index].present;
+        const std::size_t length = std::strlen(key);
+        if (!listed_) {
+            return value_.find(key, key + length);
+        }
+        for (std::size_t index = 0; index < memberCount_; ++index) {
+            const Member& member = members_[index];
+            if (member.length == length && std::memcmp(member.name, key, length) == 0) {
+                return member.value;
             }
         }
-        for (std::size_t index = 0; index < count_; ++index) {
-            if (std::strcmp(seen_[index].key, key) == 0) {
-                return seen_[index].present;
-            }
-        }
-        return value_.isMember(key);
+        return nullptr;
     }
 
     const Json::Value& value_;
-    std::array<Seen, 16> seen_{};
-    std::size_t count_ = 0;
+    std::array<Member, 24> members_{};
+    std::size_t memberCount_ = 0;
+    bool listed_ = false;
 };
 
 // Appends one element per index of `list` (an absent key has size 0); the
