@@ -4,6 +4,7 @@
 #include <thread>
 
 #include "fixture.h"
+#include "raw_header_server.h"
 #include "tls_certificate.h"
 #include "wire_text.h"
 
@@ -83,9 +84,9 @@ bool Emulator::Bind(std::string& error)
         if (!WriteCertificatePem(tls.caCert.get(), caFile_, error))
             return false;
         // SSLServer copies the certificate and key into its own context.
-        server_ = std::make_unique<httplib::SSLServer>(tls.serverCert.get(), tls.serverKey.get());
+        server_ = MakeRawHeaderTlsServer(tls.serverCert.get(), tls.serverKey.get());
     } else {
-        server_ = std::make_unique<httplib::Server>();
+        server_ = MakeRawHeaderServer();
     }
     if (!server_->is_valid()) {
         error = "the server could not be set up";

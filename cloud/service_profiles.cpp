@@ -158,9 +158,12 @@ Refusal CheckCommon(const httplib::Request& req, const Session& session)
         return r;
     // The device name is the machine model, which is empty on machines that
     // do not report one; the client then sends the header with an empty
-    // value, and the HTTP parser drops such headers. Absence is therefore
-    // accepted; a repeated header is not.
-    if (req.get_header_value_count("x-zp-device-name") > 1)
+    // value. The server keeps such headers (raw_header_server.h), so an
+    // empty name is accepted and a left-out one is not.
+    const size_t deviceNames = req.get_header_value_count("x-zp-device-name");
+    if (deviceNames == 0)
+        return Refuse(400, "x-zp-device-name: missing");
+    if (deviceNames > 1)
         return Refuse(400, "x-zp-device-name: repeated");
     if (!session.userId.empty())
         if (auto r = ExpectExact(req, "userId", session.userId))
