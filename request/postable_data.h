@@ -4,7 +4,8 @@
 
 // Anything that can be handed to a request as its body. A body either renders
 // itself (SerializableObject) or is already finished text (PostableString).
-class PostableData {
+class PostableData
+{
 public:
     PostableData() = default;
     PostableData(const PostableData&) = default;

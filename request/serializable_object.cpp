@@ -49,7 +49,7 @@ std::string JoinedElements(const Json::Value& array)
     return joined;
 }
 
-}  // namespace
+} // namespace
 
 void ObjectToStringMap(const Json::Value& value, std::map<std::string, std::string>& out)
 {

@@ -23,7 +23,8 @@
 //      its field values.
 // A value of the wrong type makes jsoncpp throw in the first pass; the record
 // then keeps what was read before the fault (see ReadRecord).
-class SerializableObject : public PostableData {
+class SerializableObject : public PostableData
+{
 public:
     // One line, no indentation, no trailing newline; keys in jsoncpp's order
     // (sorted), not in field order. Not meant to be overridden.

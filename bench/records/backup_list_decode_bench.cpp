@@ -137,6 +137,6 @@ void FromJsonOfParsedValue(benchmark::State& state)
 }
 BENCHMARK(FromJsonOfParsedValue)->Unit(benchmark::kMillisecond);
 
-}  // namespace
+} // namespace
 
 BENCHMARK_MAIN();

@@ -94,8 +94,8 @@ std::int32_t AppIdInfo::FromJson(const Json::Value& value)
     extend = in["extend"].asString();
     AppendRecords(in["fileInfos"], fileInfos);
     cursor = in["cursor"].asInt();
-    return in.Check({"appId", "status", "size", "createTime", "apkType", "apkPath", "iconPath",
-                     "apkUrl", "iconUrl", "extend", "fileInfos", "cursor"});
+    return in.Check({"appId", "status", "size", "createTime", "apkType", "apkPath", "iconPath", "apkUrl",
+                     "iconUrl", "extend", "fileInfos", "cursor"});
 }
 
 Json::Value AppIdInfo::ToJson() const
@@ -129,8 +129,8 @@ std::int32_t BackupRecord::FromJson(const Json::Value& value)
     endTime = in["endTime"].asInt64();
     extend = in["extend"].asString();
     AppendRecords(in["appIdInfos"], appIdInfos);
-    return in.Check({"device", "status", "type", "size", "backupId", "startTime", "endTime",
-                     "extend", "appIdInfos"});
+    return in.Check(
+        {"device", "status", "type", "size", "backupId", "startTime", "endTime", "extend", "appIdInfos"});
 }
 
 Json::Value BackupRecord::ToJson() const

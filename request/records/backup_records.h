@@ -11,7 +11,8 @@
 
 #include "request/serializable_object.h"
 
-class BackUpDevice : public SerializableObject {
+class BackUpDevice : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -25,7 +26,8 @@ public:
 
 // A stored file. "sig" is read but never written back; "extParams" is
 // flattened to strings (ObjectToStringMap) after clearing the map.
-class MkFile : public SerializableObject {
+class MkFile : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -40,7 +42,8 @@ public:
 };
 
 // A file of an application inside a backup.
-class FileInfo : public SerializableObject {
+class FileInfo : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -53,7 +56,8 @@ public:
 };
 
 // One application inside a backup.
-class AppIdInfo : public SerializableObject {
+class AppIdInfo : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -73,7 +77,8 @@ public:
 };
 
 // One backup of one device. "backupDeviceId" is read but not checked.
-class BackupRecord : public SerializableObject {
+class BackupRecord : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -93,7 +98,8 @@ public:
 // Request for the list of all backups (cmd 36, "QueryAllDevicesBackupRecordReq",
 // version "V3", filled by the body factory). Its reading side is never used:
 // it reads "appId" into `cmd`, and that asymmetry is kept as it stands.
-class QueryAllDevicesBackupRecordReqRequest : public SerializableObject {
+class QueryAllDevicesBackupRecordReqRequest : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -103,7 +109,8 @@ public:
     std::string version;
 };
 
-class QueryAllBackUpResponse : public SerializableObject {
+class QueryAllBackUpResponse : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -114,7 +121,8 @@ public:
 };
 
 // Removal of one device's backup (cmd 27, "DeleteDeviceBackupRecordReq").
-class BackUpDeleteRequest : public SerializableObject {
+class BackUpDeleteRequest : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -126,7 +134,8 @@ public:
 };
 
 // Removal of messages or call records. The device key is "devId" here.
-class DeleteSmsAndCallLogRequest : public SerializableObject {
+class DeleteSmsAndCallLogRequest : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -140,7 +149,8 @@ public:
 
 // Count query for messages and call records. With no devices the key
 // "deviceList" is still written, as an empty array.
-class QueryBackUpSmsAndCallLogRequest : public SerializableObject {
+class QueryBackUpSmsAndCallLogRequest : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -151,7 +161,8 @@ public:
     std::vector<BackUpDevice> deviceList;
 };
 
-class BackUpSmsAndCallLogRecord : public SerializableObject {
+class BackUpSmsAndCallLogRecord : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -160,7 +171,8 @@ public:
     std::int32_t count = 0;
 };
 
-class QueryBackUpSmsAndCallLogResponse : public SerializableObject {
+class QueryBackUpSmsAndCallLogResponse : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;

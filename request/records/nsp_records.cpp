@@ -41,7 +41,7 @@ Json::Value ListOrNull(const std::shared_ptr<std::vector<std::shared_ptr<Record>
     return list ? RecordArray(*list) : Json::Value();
 }
 
-}  // namespace
+} // namespace
 
 BaseNspFileModel::BaseNspFileModel(const std::string& accessToken, const std::vector<std::string>& pathList,
                                    const std::string& cursorText)
@@ -80,9 +80,15 @@ std::string BaseNspFileModel::PathsFormString() const
     return form;
 }
 
-std::string NspFiles::ToFormString() const { return PathsFormString(); }
+std::string NspFiles::ToFormString() const
+{
+    return PathsFormString();
+}
 
-std::string NspFolders::ToFormString() const { return PathsFormString(); }
+std::string NspFolders::ToFormString() const
+{
+    return PathsFormString();
+}
 
 NspDelFiles::NspDelFiles(const std::string& accessToken, const std::vector<std::string>& fileList)
     : access_token(accessToken)

@@ -15,7 +15,8 @@
 
 // Common fields of the file and folder queries. The JSON key of `cursor` is
 // "_cursor"; the form key has no underscore.
-class BaseNspFileModel : public SerializableObject {
+class BaseNspFileModel : public SerializableObject
+{
 public:
     BaseNspFileModel() = default;
     // `paths` is built with AppendListText.
@@ -35,7 +36,8 @@ protected:
     std::string PathsFormString() const;
 };
 
-class NspFiles : public BaseNspFileModel {
+class NspFiles : public BaseNspFileModel
+{
 public:
     static constexpr const char* kServiceName = "nsp.vfs.queryFile";
 
@@ -43,7 +45,8 @@ public:
     std::string ToFormString() const override;
 };
 
-class NspFolders : public BaseNspFileModel {
+class NspFolders : public BaseNspFileModel
+{
 public:
     static constexpr const char* kServiceName = "nsp.vfs.queryFolder";
 
@@ -53,7 +56,8 @@ public:
 
 // Removal of files. The form spells `reserve` "True" or "False", unlike its
 // JSON boolean.
-class NspDelFiles : public SerializableObject {
+class NspDelFiles : public SerializableObject
+{
 public:
     static constexpr const char* kServiceName = "nsp.vfs.rmfile";
 
@@ -72,7 +76,8 @@ public:
 
 // Attribute query. "fields" and "files" are read back as the styled JSON text
 // of their values, not as plain strings.
-class NspGetAttr : public SerializableObject {
+class NspGetAttr : public SerializableObject
+{
 public:
     static constexpr const char* kServiceName = "nsp.vfs.getattr";
 
@@ -92,7 +97,8 @@ public:
 
 // A file or folder of a listing. Every value is text; numbers in a reply
 // arrive as their text. "sslUrl" is read but not checked.
-class FolderOrFilesInfo : public SerializableObject {
+class FolderOrFilesInfo : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -108,7 +114,8 @@ public:
 
 // A folder with its totals. "fileCount" is read as text and converted with
 // atoi, so both 3 and "3" give 3 and letters give 0; it is written as a number.
-class FieldsInfo : public SerializableObject {
+class FieldsInfo : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -120,7 +127,8 @@ public:
     std::int32_t fileCount = 0;
 };
 
-class NspErrorInfo : public SerializableObject {
+class NspErrorInfo : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -130,7 +138,8 @@ public:
     std::string name;
 };
 
-class NSPResponse : public SerializableObject {
+class NSPResponse : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -141,7 +150,8 @@ public:
 
 // A list pointer stays null when its key is absent from the reply: readers
 // test the pointers. A null list is written as a null value.
-class NSPFilesResponse : public SerializableObject {
+class NSPFilesResponse : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -151,7 +161,8 @@ public:
     std::shared_ptr<std::vector<std::shared_ptr<NspErrorInfo>>> failList;
 };
 
-class NSPFoldersResponse : public SerializableObject {
+class NSPFoldersResponse : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -163,7 +174,8 @@ public:
 // Body of the cloud photo upload-address query ("bapi.cloudphoto.getUploadUrl").
 // The check list holds "clientIp", a key the record has no field for; a reply
 // without it reads -1.
-class UpLoadFiles : public SerializableObject {
+class UpLoadFiles : public SerializableObject
+{
 public:
     static constexpr const char* kCommand = "bapi.cloudphoto.getUploadUrl";
 
@@ -179,7 +191,8 @@ public:
 };
 
 // Body of the album query ("cloudphoto.album.query").
-class QueryAlbumInfo : public SerializableObject {
+class QueryAlbumInfo : public SerializableObject
+{
 public:
     static constexpr const char* kCommand = "cloudphoto.album.query";
 

@@ -18,8 +18,8 @@ std::int32_t QuotaDetail::FromJson(const Json::Value& value)
     collection = in["collection"].asString();
     trashed = in["trashed"].asBool();
     parentId = in["parentId"].asString();
-    return in.Check({"statistics", "serviceType", "recordsQuotadSpace", "assetsQuotadSpace",
-                     "appId", "collection", "trashed", "parentId"});
+    return in.Check({"statistics", "serviceType", "recordsQuotadSpace", "assetsQuotadSpace", "appId",
+                     "collection", "trashed", "parentId"});
 }
 
 Json::Value QuotaDetail::ToJson() const
@@ -68,8 +68,8 @@ std::int32_t QuotaDetailBk::FromJson(const Json::Value& value)
     statistics = in["statistics"].asString();
     trashed = in["trashed"].asString();
     kind = in["kind"].asString();
-    return in.Check({"statistics", "serviceType", "recordsQuotadSpace", "assetsQuotadSpace",
-                     "deviceId", "collection"});
+    return in.Check(
+        {"statistics", "serviceType", "recordsQuotadSpace", "assetsQuotadSpace", "deviceId", "collection"});
 }
 
 Json::Value QuotaDetailBk::ToJson() const
@@ -167,7 +167,6 @@ std::int32_t StatisticResponse::FromJson(const Json::Value& value)
     }
     return 0;
 }
-
 
 Json::Value StatisticResponse::ToJson() const
 {

@@ -13,7 +13,8 @@
 #include "request/serializable_object.h"
 
 // One row of the quota-used reply. "Quotad" is the service's spelling.
-class QuotaDetail : public SerializableObject {
+class QuotaDetail : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -28,7 +29,8 @@ public:
     std::string parentId;
 };
 
-class GetQuotaUsedInfoResponse : public SerializableObject {
+class GetQuotaUsedInfoResponse : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -40,7 +42,8 @@ public:
 
 // The same row as the backup quota query sees it. Here "trashed" is text, so
 // a JSON boolean arrives as "true" or "false".
-class QuotaDetailBk : public SerializableObject {
+class QuotaDetailBk : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -58,7 +61,8 @@ public:
     std::string kind;
 };
 
-class GetQuotaUsedInfoResponseBk : public SerializableObject {
+class GetQuotaUsedInfoResponseBk : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -69,7 +73,8 @@ public:
 };
 
 // Reply of the drive quota request.
-class GetSpaceFromUrl : public SerializableObject {
+class GetSpaceFromUrl : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -79,7 +84,8 @@ public:
 };
 
 // One category count of the PIM statistics reply.
-class DataObject : public SerializableObject {
+class DataObject : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -91,7 +97,8 @@ public:
 // The service's result. Its directions do not agree: the code is read from
 // "errorNo" but written, and checked, as "code". A reply that carries "code"
 // therefore leaves `code` at 0.
-class ResultObject : public SerializableObject {
+class ResultObject : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -103,7 +110,8 @@ public:
 // Reply of the statistics rows. Either part may be missing from a reply, and
 // then its pointer stays null: readers test both. FromJson checks nothing and
 // returns 0.
-class StatisticResponse : public SerializableObject {
+class StatisticResponse : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -113,7 +121,8 @@ public:
 };
 
 // The plain result of a CBS style request.
-class BaseRsp : public SerializableObject {
+class BaseRsp : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -123,7 +132,8 @@ public:
 };
 
 // Read from every successful reply by the send step, then dropped.
-class BaseResult : public SerializableObject {
+class BaseResult : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -135,7 +145,8 @@ public:
 // Reply of the about query of the cloud photo V2 service. Each `status` entry
 // holds the styled JSON text of its member (a number 0 is "0\n", a string
 // keeps its quotes). The map is not written back by ToJson.
-class AboutResponse : public SerializableObject {
+class AboutResponse : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;
@@ -153,7 +164,8 @@ public:
 // Reply of the PIM data version rows. `v2cut` is read from inside "status"
 // and written at the top level; `kinds` is read and never written. Both
 // numbers hold what asInt gave.
-class GetPimDataVersionResponse : public SerializableObject {
+class GetPimDataVersionResponse : public SerializableObject
+{
 public:
     std::int32_t FromJson(const Json::Value& value) override;
     Json::Value ToJson() const override;

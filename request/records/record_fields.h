@@ -36,7 +36,8 @@ inline std::int32_t CheckKeys(const Json::Value& value, std::initializer_list<co
 // key lookups, and jsoncpp's lookup walks a tree of string comparisons; the
 // members of a record-sized object are therefore listed once and matched by
 // length and bytes. Larger objects use jsoncpp's own lookup.
-class JsonFields {
+class JsonFields
+{
 public:
     explicit JsonFields(const Json::Value& value) : value_(value)
     {
@@ -72,7 +73,8 @@ public:
     }
 
 private:
-    struct Member {
+    struct Member
+    {
         const char* name;
         std::size_t length;
         const Json::Value* value;
@@ -101,8 +103,7 @@ private:
 
 // Appends one element per index of `list` (an absent key has size 0); the
 // member is not cleared first.
-template <typename Record>
-void AppendRecords(const Json::Value& list, std::vector<Record>& out)
+template <typename Record> void AppendRecords(const Json::Value& list, std::vector<Record>& out)
 {
     out.reserve(out.size() + list.size());
     for (Json::ArrayIndex index = 0; index < list.size(); ++index) {
@@ -132,8 +133,7 @@ inline void AppendStrings(const Json::Value& list, std::vector<std::string>& out
 
 // A list is written as an array built element by element; an empty list is
 // an empty array, never null.
-template <typename Record>
-Json::Value RecordArray(const std::vector<Record>& list)
+template <typename Record> Json::Value RecordArray(const std::vector<Record>& list)
 {
     Json::Value array(Json::arrayValue);
     for (const Record& record : list) {
@@ -142,8 +142,7 @@ Json::Value RecordArray(const std::vector<Record>& list)
     return array;
 }
 
-template <typename Record>
-Json::Value RecordArray(const std::vector<std::shared_ptr<Record>>& list)
+template <typename Record> Json::Value RecordArray(const std::vector<std::shared_ptr<Record>>& list)
 {
     Json::Value array(Json::arrayValue);
     for (const auto& record : list) {
@@ -178,4 +177,4 @@ inline void ReadStringMembers(const Json::Value& object, std::map<std::string, s
     }
 }
 
-}  // namespace record_fields
+} // namespace record_fields

@@ -16,7 +16,7 @@ Json::Value CompleteBackupRecord()
                   R"("backupDeviceId":"bd","startTime":4,"endTime":5,"extend":"e","appIdInfos":[]})");
 }
 
-}  // namespace
+} // namespace
 
 TEST(BackupRecord, WithoutBackupDeviceIdStillReturnsZero)
 {

@@ -89,8 +89,9 @@ TEST(NspFolders, FormMatchesTheFileQuery)
 {
     NspFolders request("a token", {"/Photo", "/Video"}, "");
     request.nsp_svc = NspFolders::kServiceName;
-    EXPECT_EQ(request.ToFormString(),
-              "nsp_svc=nsp.vfs.queryFolder&access_token=a%20token&paths=%5b%22%2fPhoto%22%2c%22%2fVideo%22%5d");
+    EXPECT_EQ(
+        request.ToFormString(),
+        "nsp_svc=nsp.vfs.queryFolder&access_token=a%20token&paths=%5b%22%2fPhoto%22%2c%22%2fVideo%22%5d");
 }
 
 TEST(NspDelFiles, NoFilesSendsTheEncodedEmptyList)
@@ -117,7 +118,8 @@ TEST(NspDelFiles, ChecksTokenBeforeFiles)
 {
     NspDelFiles request;
     EXPECT_EQ(request.FromJson(JsonOf(R"({"nsp_svc":"s","files":"[]","reserve":false})")), -1);
-    EXPECT_EQ(request.FromJson(JsonOf(R"({"nsp_svc":"s","files":"[]","reserve":true,"access_token":"t"})")), 0);
+    EXPECT_EQ(request.FromJson(JsonOf(R"({"nsp_svc":"s","files":"[]","reserve":true,"access_token":"t"})")),
+              0);
     EXPECT_TRUE(request.reserve);
 }
 
@@ -135,7 +137,8 @@ TEST(NspGetAttr, FormListsFieldsBeforeFiles)
 TEST(NspGetAttr, ReadsFieldsAndFilesAsStyledText)
 {
     NspGetAttr request;
-    EXPECT_EQ(request.FromJson(JsonOf(R"({"nsp_svc":"s","access_token":"t","fields":["size"],"files":"f"})")), 0);
+    EXPECT_EQ(request.FromJson(JsonOf(R"({"nsp_svc":"s","access_token":"t","fields":["size"],"files":"f"})")),
+              0);
     EXPECT_EQ(request.fields, "[\n\t\"size\"\n]\n");
     EXPECT_EQ(request.files, "\"f\"\n");
 }
@@ -274,6 +277,7 @@ TEST(QueryAlbumInfo, WritesAlbumTypesAsAnArray)
     record.cmd = QueryAlbumInfo::kCommand;
     record.albumType = {"0", "1"};
     record.maxNum = 100;
-    EXPECT_EQ(record.ToJsonString(),
-              R"({"albumId":"","albumType":["0","1"],"cmd":"cloudphoto.album.query","cursor":"","maxNum":100})");
+    EXPECT_EQ(
+        record.ToJsonString(),
+        R"({"albumId":"","albumType":["0","1"],"cmd":"cloudphoto.album.query","cursor":"","maxNum":100})");
 }

@@ -21,7 +21,7 @@ Json::Value LargeObject()
     return value;
 }
 
-}  // namespace
+} // namespace
 
 TEST(JsonFields, ReadsLikeAConstantValue)
 {

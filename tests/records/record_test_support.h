@@ -11,8 +11,7 @@
 
 // A record as the exchange hands it back: created, then read from the reply
 // text through ReadRecord.
-template <typename Record>
-std::shared_ptr<Record> ReadReply(const std::string& text)
+template <typename Record> std::shared_ptr<Record> ReadReply(const std::string& text)
 {
     auto record = std::make_shared<Record>();
     ReadRecord(*record, text);

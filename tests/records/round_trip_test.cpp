@@ -18,32 +18,41 @@
 
 namespace {
 
-struct RoundTripRow {
+struct RoundTripRow
+{
     const char* name;
     std::function<std::shared_ptr<SerializableObject>()> filled;
     std::function<std::shared_ptr<SerializableObject>()> fresh;
     std::string written;
     std::int32_t readResult;
-    std::string rewritten;  // empty: same as `written`
+    std::string rewritten; // empty: same as `written`
 };
 
 template <typename Record>
 RoundTripRow Row(const char* name, std::function<void(Record&)> fill, std::string written,
                  std::int32_t readResult = 0, std::string rewritten = "")
 {
-    return RoundTripRow{name,
-                        [fill] {
-                            auto record = std::make_shared<Record>();
-                            fill(*record);
-                            return std::static_pointer_cast<SerializableObject>(record);
-                        },
-                        [] { return std::static_pointer_cast<SerializableObject>(std::make_shared<Record>()); },
-                        std::move(written), readResult, std::move(rewritten)};
+    return RoundTripRow{
+        name,
+        [fill] {
+            auto record = std::make_shared<Record>();
+            fill(*record);
+            return std::static_pointer_cast<SerializableObject>(record);
+        },
+        [] { return std::static_pointer_cast<SerializableObject>(std::make_shared<Record>()); },
+        std::move(written),
+        readResult,
+        std::move(rewritten)};
 }
 
-void PrintTo(const RoundTripRow& row, std::ostream* out) { *out << row.name; }
+void PrintTo(const RoundTripRow& row, std::ostream* out)
+{
+    *out << row.name;
+}
 
-class RoundTrip : public ::testing::TestWithParam<RoundTripRow> {};
+class RoundTrip : public ::testing::TestWithParam<RoundTripRow>
+{
+};
 
 TEST_P(RoundTrip, WritesReadsAndWritesAgain)
 {
@@ -79,7 +88,8 @@ void FillMkFile(MkFile& file)
     file.needRun = true;
 }
 
-const char* kMkFileText = R"({"extParams":{"k":"v"},"name":"n","needRun":true,"size":"10","ts":"t","url":"u"})";
+const char* kMkFileText =
+    R"({"extParams":{"k":"v"},"name":"n","needRun":true,"size":"10","ts":"t","url":"u"})";
 
 void FillFileInfo(FileInfo& file)
 {
@@ -129,10 +139,11 @@ void FillBackupRecord(BackupRecord& backup)
     FillAppIdInfo(backup.appIdInfos.back());
 }
 
-const std::string kBackupRecordText = std::string(R"({"appIdInfos":[)") + kAppIdInfoText +
-                                      R"(],"backupDeviceId":"bd","backupId":"b","device":)" + kDeviceText +
-                                      R"(,"endTime":4,"extend":"e","size":7000000000,"startTime":3,"status":1,)"
-                                      R"("type":2})";
+const std::string kBackupRecordText =
+    std::string(R"({"appIdInfos":[)") + kAppIdInfoText +
+    R"(],"backupDeviceId":"bd","backupId":"b","device":)" + kDeviceText +
+    R"(,"endTime":4,"extend":"e","size":7000000000,"startTime":3,"status":1,)"
+    R"("type":2})";
 
 void FillQuotaDetail(QuotaDetail& detail)
 {
@@ -146,9 +157,10 @@ void FillQuotaDetail(QuotaDetail& detail)
     detail.parentId = "p";
 }
 
-const char* kQuotaDetailText = R"({"appId":"app","assetsQuotadSpace":6000000000,"collection":"photo",)"
-                               R"("parentId":"p","recordsQuotadSpace":1,"serviceType":10880002,"statistics":"s",)"
-                               R"("trashed":true})";
+const char* kQuotaDetailText =
+    R"({"appId":"app","assetsQuotadSpace":6000000000,"collection":"photo",)"
+    R"("parentId":"p","recordsQuotadSpace":1,"serviceType":10880002,"statistics":"s",)"
+    R"("trashed":true})";
 
 void FillQuotaDetailBk(QuotaDetailBk& detail)
 {
@@ -207,100 +219,109 @@ std::vector<RoundTripRow> QuotaRows()
 {
     return {
         Row<QuotaDetail>("QuotaDetail", FillQuotaDetail, kQuotaDetailText),
-        Row<GetQuotaUsedInfoResponse>("GetQuotaUsedInfoResponse",
-                                      [](GetQuotaUsedInfoResponse& r) {
-                                          r.retCode = 0;
-                                          r.used = 8000000000;
-                                          r.quotaDetails.emplace_back();
-                                          FillQuotaDetail(r.quotaDetails.back());
-                                      },
-                                      std::string(R"({"quotaDetails":[)") + kQuotaDetailText +
-                                          R"(],"retCode":0,"used":8000000000})"),
+        Row<GetQuotaUsedInfoResponse>(
+            "GetQuotaUsedInfoResponse",
+            [](GetQuotaUsedInfoResponse& r) {
+                r.retCode = 0;
+                r.used = 8000000000;
+                r.quotaDetails.emplace_back();
+                FillQuotaDetail(r.quotaDetails.back());
+            },
+            std::string(R"({"quotaDetails":[)") + kQuotaDetailText + R"(],"retCode":0,"used":8000000000})"),
         Row<QuotaDetailBk>("QuotaDetailBk", FillQuotaDetailBk, kQuotaDetailBkText),
-        Row<GetQuotaUsedInfoResponseBk>("GetQuotaUsedInfoResponseBk",
-                                        [](GetQuotaUsedInfoResponseBk& r) {
-                                            r.retCode = 1;
-                                            r.used = 2;
-                                            r.quotaDetails.emplace_back();
-                                            FillQuotaDetailBk(r.quotaDetails.back());
-                                        },
-                                        std::string(R"({"quotaDetails":[)") + kQuotaDetailBkText +
-                                            R"(],"retCode":1,"used":2})"),
-        Row<GetSpaceFromUrl>("GetSpaceFromUrl",
-                             [](GetSpaceFromUrl& r) {
-                                 r.retCode = 0;
-                                 r.used = 9000000000;
-                             },
-                             R"({"retCode":0,"used":9000000000})"),
-        Row<DataObject>("DataObject",
-                        [](DataObject& r) {
-                            r.source = "wlan";
-                            r.sumNum = 12;
-                        },
-                        R"({"source":"wlan","sumNum":12})"),
+        Row<GetQuotaUsedInfoResponseBk>(
+            "GetQuotaUsedInfoResponseBk",
+            [](GetQuotaUsedInfoResponseBk& r) {
+                r.retCode = 1;
+                r.used = 2;
+                r.quotaDetails.emplace_back();
+                FillQuotaDetailBk(r.quotaDetails.back());
+            },
+            std::string(R"({"quotaDetails":[)") + kQuotaDetailBkText + R"(],"retCode":1,"used":2})"),
+        Row<GetSpaceFromUrl>(
+            "GetSpaceFromUrl",
+            [](GetSpaceFromUrl& r) {
+                r.retCode = 0;
+                r.used = 9000000000;
+            },
+            R"({"retCode":0,"used":9000000000})"),
+        Row<DataObject>(
+            "DataObject",
+            [](DataObject& r) {
+                r.source = "wlan";
+                r.sumNum = 12;
+            },
+            R"({"source":"wlan","sumNum":12})"),
         // The code goes out as "code" and comes back from "errorNo": lost.
-        Row<ResultObject>("ResultObjectLosesItsCode",
-                          [](ResultObject& r) {
-                              r.code = 5;
-                              r.info = "i";
-                          },
-                          R"({"code":5,"info":"i"})", 0, R"({"code":0,"info":"i"})"),
-        Row<StatisticResponse>("StatisticResponseLosesTheResultCode",
-                               [](StatisticResponse& r) {
-                                   r.result = std::make_shared<ResultObject>();
-                                   r.result->code = 3;
-                                   r.result->info = "ok";
-                                   r.data = std::make_shared<std::vector<DataObject>>(1);
-                                   r.data->front().source = "cal";
-                                   r.data->front().sumNum = 2;
-                               },
-                               R"({"data":[{"source":"cal","sumNum":2}],"result":{"code":3,"info":"ok"}})", 0,
-                               R"({"data":[{"source":"cal","sumNum":2}],"result":{"code":0,"info":"ok"}})"),
-        Row<BaseRsp>("BaseRsp",
-                     [](BaseRsp& r) {
-                         r.result = -3;
-                         r.info = "denied";
-                     },
-                     R"({"info":"denied","result":-3})"),
-        Row<BaseResult>("BaseResult",
-                        [](BaseResult& r) {
-                            r.errorNo = 401;
-                            r.scenarioId = "sc";
-                        },
-                        R"({"errorNo":401,"scenarioId":"sc"})"),
+        Row<ResultObject>(
+            "ResultObjectLosesItsCode",
+            [](ResultObject& r) {
+                r.code = 5;
+                r.info = "i";
+            },
+            R"({"code":5,"info":"i"})", 0, R"({"code":0,"info":"i"})"),
+        Row<StatisticResponse>(
+            "StatisticResponseLosesTheResultCode",
+            [](StatisticResponse& r) {
+                r.result = std::make_shared<ResultObject>();
+                r.result->code = 3;
+                r.result->info = "ok";
+                r.data = std::make_shared<std::vector<DataObject>>(1);
+                r.data->front().source = "cal";
+                r.data->front().sumNum = 2;
+            },
+            R"({"data":[{"source":"cal","sumNum":2}],"result":{"code":3,"info":"ok"}})", 0,
+            R"({"data":[{"source":"cal","sumNum":2}],"result":{"code":0,"info":"ok"}})"),
+        Row<BaseRsp>(
+            "BaseRsp",
+            [](BaseRsp& r) {
+                r.result = -3;
+                r.info = "denied";
+            },
+            R"({"info":"denied","result":-3})"),
+        Row<BaseResult>(
+            "BaseResult",
+            [](BaseResult& r) {
+                r.errorNo = 401;
+                r.scenarioId = "sc";
+            },
+            R"({"errorNo":401,"scenarioId":"sc"})"),
         // "status" is not written, so it is lost and its check fails.
-        Row<AboutResponse>("AboutResponseLosesItsStatus",
-                           [](AboutResponse& r) {
-                               r.category = "c";
-                               r.dataVersion = "v2.0";
-                               r.domain = "d";
-                               r.maxBatchNumber = 100;
-                               r.maxFileUploadSize = "5368709120";
-                               r.maxThumbnailSize = 1048576;
-                               r.serverTime = 1700000000000;
-                               r.status = {{"v2cut", "0\n"}};
-                           },
-                           R"({"category":"c","dataVersion":"v2.0","domain":"d","maxBatchNumber":100,)"
-                           R"("maxFileUploadSize":"5368709120","maxThumbnailSize":1048576,"serverTime":1700000000000})",
-                           -1),
+        Row<AboutResponse>(
+            "AboutResponseLosesItsStatus",
+            [](AboutResponse& r) {
+                r.category = "c";
+                r.dataVersion = "v2.0";
+                r.domain = "d";
+                r.maxBatchNumber = 100;
+                r.maxFileUploadSize = "5368709120";
+                r.maxThumbnailSize = 1048576;
+                r.serverTime = 1700000000000;
+                r.status = {{"v2cut", "0\n"}};
+            },
+            R"({"category":"c","dataVersion":"v2.0","domain":"d","maxBatchNumber":100,)"
+            R"("maxFileUploadSize":"5368709120","maxThumbnailSize":1048576,"serverTime":1700000000000})",
+            -1),
         // v2cut goes out at the top level and is read from "status": lost;
         // kinds are never written.
-        Row<GetPimDataVersionResponse>("GetPimDataVersionResponseLosesV2cut",
-                                       [](GetPimDataVersionResponse& r) {
-                                           r.kinds = {"contact"};
-                                           r.maxBatchNumber = 50;
-                                           r.v2cut = 1;
-                                           r.dataVersion = "v2.0";
-                                       },
-                                       R"({"dataVersion":"v2.0","maxBatchNumber":50,"v2cut":1})", -1,
-                                       R"({"dataVersion":"v2.0","maxBatchNumber":50,"v2cut":0})"),
+        Row<GetPimDataVersionResponse>(
+            "GetPimDataVersionResponseLosesV2cut",
+            [](GetPimDataVersionResponse& r) {
+                r.kinds = {"contact"};
+                r.maxBatchNumber = 50;
+                r.v2cut = 1;
+                r.dataVersion = "v2.0";
+            },
+            R"({"dataVersion":"v2.0","maxBatchNumber":50,"v2cut":1})", -1,
+            R"({"dataVersion":"v2.0","maxBatchNumber":50,"v2cut":0})"),
     };
 }
 
 std::vector<RoundTripRow> BackupRows()
 {
     return {
-        Row<BackUpDevice>("BackUpDevice", [](BackUpDevice& r) { FillDevice(r, "d1"); }, kDeviceText),
+        Row<BackUpDevice>(
+            "BackUpDevice", [](BackUpDevice& r) { FillDevice(r, "d1"); }, kDeviceText),
         // "sig" is read and never written back: not visible in either text,
         // and the check of "sig" fails on the way back.
         Row<MkFile>("MkFileLosesSig", FillMkFile, kMkFileText, -1),
@@ -308,167 +329,182 @@ std::vector<RoundTripRow> BackupRows()
         Row<AppIdInfo>("AppIdInfo", FillAppIdInfo, kAppIdInfoText),
         Row<BackupRecord>("BackupRecord", FillBackupRecord, kBackupRecordText),
         // cmd goes out as "cmd" and is read from "appId": lost.
-        Row<QueryAllDevicesBackupRecordReqRequest>("QueryAllDevicesBackupRecordReqRequestLosesCmd",
-                                                   [](QueryAllDevicesBackupRecordReqRequest& r) {
-                                                       r.cmd = 36;
-                                                       r.info = "QueryAllDevicesBackupRecordReq";
-                                                       r.version = "V3";
-                                                   },
-                                                   R"({"cmd":36,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})",
-                                                   0,
-                                                   R"({"cmd":0,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})"),
-        Row<QueryAllBackUpResponse>("QueryAllBackUpResponse",
-                                    [](QueryAllBackUpResponse& r) {
-                                        r.result = 0;
-                                        r.info = "ok";
-                                        r.backupRecords.emplace_back();
-                                        FillBackupRecord(r.backupRecords.back());
-                                    },
-                                    std::string(R"({"backupRecords":[)") + kBackupRecordText +
-                                        R"(],"info":"ok","result":0})"),
-        Row<BackUpDeleteRequest>("BackUpDeleteRequest",
-                                 [](BackUpDeleteRequest& r) {
-                                     r.cmd = 27;
-                                     r.info = "DeleteDeviceBackupRecordReq";
-                                     r.deviceId = "d1";
-                                     r.deviceType = 2;
-                                 },
-                                 R"({"cmd":27,"deviceId":"d1","deviceType":2,"info":"DeleteDeviceBackupRecordReq"})"),
-        Row<DeleteSmsAndCallLogRequest>("DeleteSmsAndCallLogRequest",
-                                        [](DeleteSmsAndCallLogRequest& r) {
-                                            r.cmd = 41;
-                                            r.info = "del";
-                                            r.devId = "d1";
-                                            r.deviceType = 2;
-                                            r.typeList = {"sms", "mms"};
-                                        },
-                                        R"({"cmd":41,"devId":"d1","deviceType":2,"info":"del","typeList":["sms","mms"]})"),
-        Row<QueryBackUpSmsAndCallLogRequest>("QueryBackUpSmsAndCallLogRequest",
-                                             [](QueryBackUpSmsAndCallLogRequest& r) {
-                                                 r.cmd = 40;
-                                                 r.info = "count";
-                                                 r.type = "sms";
-                                                 r.deviceList.emplace_back();
-                                                 FillDevice(r.deviceList.back(), "d1");
-                                             },
-                                             std::string(R"({"cmd":40,"deviceList":[)") + kDeviceText +
-                                                 R"(],"info":"count","type":"sms"})"),
-        Row<BackUpSmsAndCallLogRecord>("BackUpSmsAndCallLogRecord",
-                                       [](BackUpSmsAndCallLogRecord& r) {
-                                           FillDevice(r.device, "d1");
-                                           r.count = 15;
-                                       },
-                                       std::string(R"({"count":15,"device":)") + kDeviceText + "}"),
-        Row<QueryBackUpSmsAndCallLogResponse>("QueryBackUpSmsAndCallLogResponse",
-                                              [](QueryBackUpSmsAndCallLogResponse& r) {
-                                                  r.result = 0;
-                                                  r.info = "ok";
-                                                  r.countRet.emplace_back();
-                                                  FillDevice(r.countRet.back().device, "d1");
-                                                  r.countRet.back().count = 15;
-                                                  r.deviceList.emplace_back();
-                                                  FillDevice(r.deviceList.back(), "d1");
-                                              },
-                                              std::string(R"({"countRet":[{"count":15,"device":)") + kDeviceText +
-                                                  R"(}],"deviceList":[)" + kDeviceText + R"(],"info":"ok","result":0})"),
+        Row<QueryAllDevicesBackupRecordReqRequest>(
+            "QueryAllDevicesBackupRecordReqRequestLosesCmd",
+            [](QueryAllDevicesBackupRecordReqRequest& r) {
+                r.cmd = 36;
+                r.info = "QueryAllDevicesBackupRecordReq";
+                r.version = "V3";
+            },
+            R"({"cmd":36,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})", 0,
+            R"({"cmd":0,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})"),
+        Row<QueryAllBackUpResponse>(
+            "QueryAllBackUpResponse",
+            [](QueryAllBackUpResponse& r) {
+                r.result = 0;
+                r.info = "ok";
+                r.backupRecords.emplace_back();
+                FillBackupRecord(r.backupRecords.back());
+            },
+            std::string(R"({"backupRecords":[)") + kBackupRecordText + R"(],"info":"ok","result":0})"),
+        Row<BackUpDeleteRequest>(
+            "BackUpDeleteRequest",
+            [](BackUpDeleteRequest& r) {
+                r.cmd = 27;
+                r.info = "DeleteDeviceBackupRecordReq";
+                r.deviceId = "d1";
+                r.deviceType = 2;
+            },
+            R"({"cmd":27,"deviceId":"d1","deviceType":2,"info":"DeleteDeviceBackupRecordReq"})"),
+        Row<DeleteSmsAndCallLogRequest>(
+            "DeleteSmsAndCallLogRequest",
+            [](DeleteSmsAndCallLogRequest& r) {
+                r.cmd = 41;
+                r.info = "del";
+                r.devId = "d1";
+                r.deviceType = 2;
+                r.typeList = {"sms", "mms"};
+            },
+            R"({"cmd":41,"devId":"d1","deviceType":2,"info":"del","typeList":["sms","mms"]})"),
+        Row<QueryBackUpSmsAndCallLogRequest>(
+            "QueryBackUpSmsAndCallLogRequest",
+            [](QueryBackUpSmsAndCallLogRequest& r) {
+                r.cmd = 40;
+                r.info = "count";
+                r.type = "sms";
+                r.deviceList.emplace_back();
+                FillDevice(r.deviceList.back(), "d1");
+            },
+            std::string(R"({"cmd":40,"deviceList":[)") + kDeviceText + R"(],"info":"count","type":"sms"})"),
+        Row<BackUpSmsAndCallLogRecord>(
+            "BackUpSmsAndCallLogRecord",
+            [](BackUpSmsAndCallLogRecord& r) {
+                FillDevice(r.device, "d1");
+                r.count = 15;
+            },
+            std::string(R"({"count":15,"device":)") + kDeviceText + "}"),
+        Row<QueryBackUpSmsAndCallLogResponse>(
+            "QueryBackUpSmsAndCallLogResponse",
+            [](QueryBackUpSmsAndCallLogResponse& r) {
+                r.result = 0;
+                r.info = "ok";
+                r.countRet.emplace_back();
+                FillDevice(r.countRet.back().device, "d1");
+                r.countRet.back().count = 15;
+                r.deviceList.emplace_back();
+                FillDevice(r.deviceList.back(), "d1");
+            },
+            std::string(R"({"countRet":[{"count":15,"device":)") + kDeviceText + R"(}],"deviceList":[)" +
+                kDeviceText + R"(],"info":"ok","result":0})"),
     };
 }
 
 std::vector<RoundTripRow> NspRows()
 {
     return {
-        Row<NspFiles>("NspFiles",
-                      [](NspFiles& r) {
-                          r = NspFiles("tok", {"/a"}, "c");
-                          r.nsp_svc = NspFiles::kServiceName;
-                      },
-                      R"({"_cursor":"c","access_token":"tok","nsp_svc":"nsp.vfs.queryFile","paths":"[\"/a\"]"})"),
-        Row<NspFolders>("NspFolders",
-                        [](NspFolders& r) {
-                            r = NspFolders("tok", {"/a", "/b"}, "");
-                            r.nsp_svc = NspFolders::kServiceName;
-                        },
-                        R"({"_cursor":"","access_token":"tok","nsp_svc":"nsp.vfs.queryFolder",)"
-                        R"("paths":"[\"/a\",\"/b\"]"})"),
-        Row<NspDelFiles>("NspDelFiles",
-                         [](NspDelFiles& r) {
-                             r = NspDelFiles("tok", {"/a"});
-                             r.nsp_svc = NspDelFiles::kServiceName;
-                             r.reserve = true;
-                         },
-                         R"({"access_token":"tok","files":"[\"/a\"]","nsp_svc":"nsp.vfs.rmfile","reserve":true})"),
+        Row<NspFiles>(
+            "NspFiles",
+            [](NspFiles& r) {
+                r = NspFiles("tok", {"/a"}, "c");
+                r.nsp_svc = NspFiles::kServiceName;
+            },
+            R"({"_cursor":"c","access_token":"tok","nsp_svc":"nsp.vfs.queryFile","paths":"[\"/a\"]"})"),
+        Row<NspFolders>(
+            "NspFolders",
+            [](NspFolders& r) {
+                r = NspFolders("tok", {"/a", "/b"}, "");
+                r.nsp_svc = NspFolders::kServiceName;
+            },
+            R"({"_cursor":"","access_token":"tok","nsp_svc":"nsp.vfs.queryFolder",)"
+            R"("paths":"[\"/a\",\"/b\"]"})"),
+        Row<NspDelFiles>(
+            "NspDelFiles",
+            [](NspDelFiles& r) {
+                r = NspDelFiles("tok", {"/a"});
+                r.nsp_svc = NspDelFiles::kServiceName;
+                r.reserve = true;
+            },
+            R"({"access_token":"tok","files":"[\"/a\"]","nsp_svc":"nsp.vfs.rmfile","reserve":true})"),
         // "fields" and "files" come back as the styled text of the strings
         // that were written: quoted, escaped and with a newline.
-        Row<NspGetAttr>("NspGetAttrRestylesItsLists",
-                        [](NspGetAttr& r) {
-                            r = NspGetAttr("tok", {"/a"}, {"size"});
-                            r.nsp_svc = NspGetAttr::kServiceName;
-                        },
-                        R"({"access_token":"tok","fields":"[\"size\"]","files":"[\"/a\"]","nsp_svc":"nsp.vfs.getattr"})",
-                        0,
-                        R"({"access_token":"tok","fields":"\"[\\\"size\\\"]\"\n","files":"\"[\\\"/a\\\"]\"\n",)"
-                        R"("nsp_svc":"nsp.vfs.getattr"})"),
-        Row<FolderOrFilesInfo>("FolderOrFilesInfo", [](FolderOrFilesInfo& r) { FillFolderOrFile(r, "f"); },
-                               kFolderOrFileText),
+        Row<NspGetAttr>(
+            "NspGetAttrRestylesItsLists",
+            [](NspGetAttr& r) {
+                r = NspGetAttr("tok", {"/a"}, {"size"});
+                r.nsp_svc = NspGetAttr::kServiceName;
+            },
+            R"({"access_token":"tok","fields":"[\"size\"]","files":"[\"/a\"]","nsp_svc":"nsp.vfs.getattr"})",
+            0,
+            R"({"access_token":"tok","fields":"\"[\\\"size\\\"]\"\n","files":"\"[\\\"/a\\\"]\"\n",)"
+            R"("nsp_svc":"nsp.vfs.getattr"})"),
+        Row<FolderOrFilesInfo>(
+            "FolderOrFilesInfo", [](FolderOrFilesInfo& r) { FillFolderOrFile(r, "f"); }, kFolderOrFileText),
         Row<FieldsInfo>("FieldsInfo", FillFields, kFieldsText),
         Row<NspErrorInfo>("NspErrorInfo", FillError, kErrorText),
-        Row<NSPResponse>("NSPResponse",
-                         [](NSPResponse& r) {
-                             r.successList.emplace_back();
-                             FillFolderOrFile(r.successList.back(), "f");
-                             r.failList.emplace_back();
-                             FillError(r.failList.back());
-                         },
-                         std::string(R"({"failList":[)") + kErrorText + R"(],"successList":[)" + kFolderOrFileText +
-                             "]}"),
-        Row<NSPFilesResponse>("NSPFilesResponse",
-                              [](NSPFilesResponse& r) {
-                                  r.cursor = "next";
-                                  r.fileList = std::make_shared<std::vector<std::shared_ptr<FolderOrFilesInfo>>>();
-                                  r.fileList->push_back(std::make_shared<FolderOrFilesInfo>());
-                                  FillFolderOrFile(*r.fileList->back(), "f");
-                                  r.failList = std::make_shared<std::vector<std::shared_ptr<NspErrorInfo>>>();
-                                  r.failList->push_back(std::make_shared<NspErrorInfo>());
-                                  FillError(*r.failList->back());
-                              },
-                              std::string(R"({"cursor":"next","failList":[)") + kErrorText + R"(],"fileList":[)" +
-                                  kFolderOrFileText + "]}"),
-        Row<NSPFoldersResponse>("NSPFoldersResponse",
-                                [](NSPFoldersResponse& r) {
-                                    r.successList = std::make_shared<std::vector<std::shared_ptr<FieldsInfo>>>();
-                                    r.successList->push_back(std::make_shared<FieldsInfo>());
-                                    FillFields(*r.successList->back());
-                                    r.failList = std::make_shared<std::vector<std::shared_ptr<NspErrorInfo>>>();
-                                },
-                                std::string(R"({"failList":[],"successList":[)") + kFieldsText + "]}"),
+        Row<NSPResponse>(
+            "NSPResponse",
+            [](NSPResponse& r) {
+                r.successList.emplace_back();
+                FillFolderOrFile(r.successList.back(), "f");
+                r.failList.emplace_back();
+                FillError(r.failList.back());
+            },
+            std::string(R"({"failList":[)") + kErrorText + R"(],"successList":[)" + kFolderOrFileText + "]}"),
+        Row<NSPFilesResponse>(
+            "NSPFilesResponse",
+            [](NSPFilesResponse& r) {
+                r.cursor = "next";
+                r.fileList = std::make_shared<std::vector<std::shared_ptr<FolderOrFilesInfo>>>();
+                r.fileList->push_back(std::make_shared<FolderOrFilesInfo>());
+                FillFolderOrFile(*r.fileList->back(), "f");
+                r.failList = std::make_shared<std::vector<std::shared_ptr<NspErrorInfo>>>();
+                r.failList->push_back(std::make_shared<NspErrorInfo>());
+                FillError(*r.failList->back());
+            },
+            std::string(R"({"cursor":"next","failList":[)") + kErrorText + R"(],"fileList":[)" +
+                kFolderOrFileText + "]}"),
+        Row<NSPFoldersResponse>(
+            "NSPFoldersResponse",
+            [](NSPFoldersResponse& r) {
+                r.successList = std::make_shared<std::vector<std::shared_ptr<FieldsInfo>>>();
+                r.successList->push_back(std::make_shared<FieldsInfo>());
+                FillFields(*r.successList->back());
+                r.failList = std::make_shared<std::vector<std::shared_ptr<NspErrorInfo>>>();
+            },
+            std::string(R"({"failList":[],"successList":[)") + kFieldsText + "]}"),
         // Every field survives, but the check of "clientIp" always fails.
-        Row<UpLoadFiles>("UpLoadFiles",
-                         [](UpLoadFiles& r) {
-                             r.cmd = UpLoadFiles::kCommand;
-                             r.host = "upload.example";
-                             r.mapUrlHeaders = {{"Content-Type", "image/jpeg"}};
-                             r.mapUrlParams = {{"uploadId", "u1"}};
-                             r.method = "PUT";
-                             r.objectId = "o";
-                         },
-                         R"({"cmd":"bapi.cloudphoto.getUploadUrl","host":"upload.example",)"
-                         R"("mapUrlHeaders":{"Content-Type":"image/jpeg"},"mapUrlParams":{"uploadId":"u1"},)"
-                         R"("method":"PUT","objectId":"o"})",
-                         -1),
-        Row<QueryAlbumInfo>("QueryAlbumInfo",
-                            [](QueryAlbumInfo& r) {
-                                r.cmd = QueryAlbumInfo::kCommand;
-                                r.albumType = {"0"};
-                                r.albumId = "al";
-                                r.maxNum = 100;
-                                r.cursor = "c";
-                            },
-                            R"({"albumId":"al","albumType":["0"],"cmd":"cloudphoto.album.query","cursor":"c",)"
-                            R"("maxNum":100})"),
+        Row<UpLoadFiles>(
+            "UpLoadFiles",
+            [](UpLoadFiles& r) {
+                r.cmd = UpLoadFiles::kCommand;
+                r.host = "upload.example";
+                r.mapUrlHeaders = {{"Content-Type", "image/jpeg"}};
+                r.mapUrlParams = {{"uploadId", "u1"}};
+                r.method = "PUT";
+                r.objectId = "o";
+            },
+            R"({"cmd":"bapi.cloudphoto.getUploadUrl","host":"upload.example",)"
+            R"("mapUrlHeaders":{"Content-Type":"image/jpeg"},"mapUrlParams":{"uploadId":"u1"},)"
+            R"("method":"PUT","objectId":"o"})",
+            -1),
+        Row<QueryAlbumInfo>(
+            "QueryAlbumInfo",
+            [](QueryAlbumInfo& r) {
+                r.cmd = QueryAlbumInfo::kCommand;
+                r.albumType = {"0"};
+                r.albumId = "al";
+                r.maxNum = 100;
+                r.cursor = "c";
+            },
+            R"({"albumId":"al","albumType":["0"],"cmd":"cloudphoto.album.query","cursor":"c",)"
+            R"("maxNum":100})"),
     };
 }
 
-std::string RowName(const ::testing::TestParamInfo<RoundTripRow>& info) { return info.param.name; }
+std::string RowName(const ::testing::TestParamInfo<RoundTripRow>& info)
+{
+    return info.param.name;
+}
 
 INSTANTIATE_TEST_SUITE_P(QuotaRecords, RoundTrip, ::testing::ValuesIn(QuotaRows()), RowName);
 INSTANTIATE_TEST_SUITE_P(BackupRecords, RoundTrip, ::testing::ValuesIn(BackupRows()), RowName);
@@ -503,4 +539,4 @@ TEST(RoundTripOfGetPimDataVersionResponse, KindsAreEmptyAfterTheWayBack)
     EXPECT_TRUE(reread.kinds.empty());
 }
 
-}  // namespace
+} // namespace

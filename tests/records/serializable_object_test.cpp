@@ -21,7 +21,7 @@ BaseRsp FilledBaseRsp()
     return record;
 }
 
-}  // namespace
+} // namespace
 
 TEST(ReadRecord, TopLevelArrayLeavesRecordAtItsDefaults)
 {
@@ -92,7 +92,8 @@ TEST(FromJson, ReturnsMinusOneWhenACheckedKeyIsAbsent)
 
 TEST(FromJson, ReadingTwiceDoublesAList)
 {
-    const Json::Value reply = JsonOf(R"({"result":0,"info":"","backupRecords":[{"backupId":"a"},{"backupId":"b"}]})");
+    const Json::Value reply =
+        JsonOf(R"({"result":0,"info":"","backupRecords":[{"backupId":"a"},{"backupId":"b"}]})");
     QueryAllBackUpResponse record;
     record.FromJson(reply);
     record.FromJson(reply);
@@ -162,15 +163,21 @@ TEST(ObjectToStringMap, KeepsNumbersAndArraysAndDropsBooleans)
     EXPECT_EQ(map, expected);
 }
 
-struct StringMapRow {
+struct StringMapRow
+{
     const char* name;
     const char* json;
     std::map<std::string, std::string> expected;
 };
 
-void PrintTo(const StringMapRow& row, std::ostream* out) { *out << row.name; }
+void PrintTo(const StringMapRow& row, std::ostream* out)
+{
+    *out << row.name;
+}
 
-class ObjectToStringMapTable : public ::testing::TestWithParam<StringMapRow> {};
+class ObjectToStringMapTable : public ::testing::TestWithParam<StringMapRow>
+{
+};
 
 TEST_P(ObjectToStringMapTable, StoresEachMemberByItsType)
 {
@@ -193,8 +200,7 @@ INSTANTIATE_TEST_SUITE_P(
         StringMapRow{"NullLeftOut", R"({"z":null,"k":"v"})", {{"k", "v"}}},
         StringMapRow{"FalseLeftOut", R"({"f":false})", {}},
         StringMapRow{"ObjectLeftOut", R"({"o":{"x":1},"k":"v"})", {{"k", "v"}}},
-        StringMapRow{"EmptyObjectAddsNothing", R"({})", {}},
-        StringMapRow{"NullAddsNothing", R"(null)", {}}),
+        StringMapRow{"EmptyObjectAddsNothing", R"({})", {}}, StringMapRow{"NullAddsNothing", R"(null)", {}}),
     [](const ::testing::TestParamInfo<StringMapRow>& info) { return info.param.name; });
 
 TEST(ObjectToStringMap, KeepsEntriesThatNoMemberReplaces)

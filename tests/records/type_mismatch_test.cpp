@@ -16,14 +16,20 @@
 
 namespace {
 
-struct MismatchRow {
+struct MismatchRow
+{
     const char* name;
     std::function<void()> check;
 };
 
-void PrintTo(const MismatchRow& row, std::ostream* out) { *out << row.name; }
+void PrintTo(const MismatchRow& row, std::ostream* out)
+{
+    *out << row.name;
+}
 
-class TypeMismatch : public ::testing::TestWithParam<MismatchRow> {};
+class TypeMismatch : public ::testing::TestWithParam<MismatchRow>
+{
+};
 
 TEST_P(TypeMismatch, PartlyFillsTheRecordAndNeverThrows)
 {
@@ -70,7 +76,8 @@ INSTANTIATE_TEST_SUITE_P(
         MismatchRow{"IntegerOutOfIntRangeStopsTheRead",
                     [] { ExpectBaseRsp(R"({"result":3000000000,"info":"x"})", 0, ""); }},
         // string, boolean, array, object into a 32-bit field
-        MismatchRow{"StringIntoIntStopsTheRead", [] { ExpectBaseRsp(R"({"result":"12","info":"x"})", 0, ""); }},
+        MismatchRow{"StringIntoIntStopsTheRead",
+                    [] { ExpectBaseRsp(R"({"result":"12","info":"x"})", 0, ""); }},
         MismatchRow{"TrueIntoIntIsOne", [] { ExpectBaseRsp(R"({"result":true,"info":"x"})", 1, "x"); }},
         MismatchRow{"FalseIntoIntIsZero", [] { ExpectBaseRsp(R"({"result":false,"info":"x"})", 0, "x"); }},
         MismatchRow{"ArrayIntoIntStopsTheRead", [] { ExpectBaseRsp(R"({"result":[1],"info":"x"})", 0, ""); }},
@@ -121,15 +128,16 @@ INSTANTIATE_TEST_SUITE_P(
         MismatchRow{"ObjectIntoStringStopsTheRead", [] { ExpectDeviceIdStops(R"({"a":"b"})"); }},
         // a wrong type inside a list keeps the elements before it, and the
         // element being read is already in place only if it was appended
-        MismatchRow{"FaultInsideAListKeepsEarlierElements",
-                    [] {
-                        const auto record = ReadReply<QueryAllBackUpResponse>(
-                            R"({"result":0,"info":"ok","backupRecords":[{"backupId":"a"},{"status":"bad"}]})");
-                        EXPECT_EQ(record->result, 0);
-                        EXPECT_EQ(record->info, "ok");
-                        ASSERT_EQ(record->backupRecords.size(), 1u);
-                        EXPECT_EQ(record->backupRecords[0].backupId, "a");
-                    }},
+        MismatchRow{
+            "FaultInsideAListKeepsEarlierElements",
+            [] {
+                const auto record = ReadReply<QueryAllBackUpResponse>(
+                    R"({"result":0,"info":"ok","backupRecords":[{"backupId":"a"},{"status":"bad"}]})");
+                EXPECT_EQ(record->result, 0);
+                EXPECT_EQ(record->info, "ok");
+                ASSERT_EQ(record->backupRecords.size(), 1u);
+                EXPECT_EQ(record->backupRecords[0].backupId, "a");
+            }},
         // a nested record of the wrong type stops the outer read too
         MismatchRow{"NestedRecordAsStringStopsTheRead",
                     [] {
@@ -140,4 +148,4 @@ INSTANTIATE_TEST_SUITE_P(
                     }}),
     [](const ::testing::TestParamInfo<MismatchRow>& info) { return info.param.name; });
 
-}  // namespace
+} // namespace
