@@ -27,8 +27,8 @@ class SerializableObject : public PostableData
 {
 public:
     // One line, no indentation, no trailing newline; keys in jsoncpp's order
-    // (sorted), not in field order. Not meant to be overridden.
-    virtual std::string ToJsonString() const;
+    // (sorted), not in field order. Written once, here, for every record.
+    virtual std::string ToJsonString() const final;
     virtual std::int32_t FromJson(const Json::Value& value) = 0;
     virtual Json::Value ToJson() const = 0;
 };

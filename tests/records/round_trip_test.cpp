@@ -58,7 +58,10 @@ TEST_P(RoundTrip, WritesReadsAndWritesAgain)
 {
     const RoundTripRow& row = GetParam();
     const auto original = row.filled();
-    EXPECT_EQ(original->ToJsonString(), row.written);
+    const std::string text = original->ToJsonString();
+    EXPECT_EQ(text, row.written);
+    EXPECT_EQ(text.find('\n'), std::string::npos);
+    EXPECT_EQ(text.find("  "), std::string::npos);
 
     const auto reread = row.fresh();
     EXPECT_EQ(reread->FromJson(original->ToJson()), row.readResult);
