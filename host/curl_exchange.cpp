@@ -99,11 +99,25 @@ CResponseInfo PerformCurlExchange(const CurlExchangeSpec& ex, AnyHttpHeaderMap& 
 {
     CURLSH* share = SharedConnectionCache();
 
-    EasyHandle curl(curl_easy_init());
+    // Each thread keeps one easy handle: a fresh handle builds its own
+    // internal state (a wake-up socket pair among it) on every exchange,
+    // which costs more than a loopback round trip. The options are reset on
+    // each use; connections stay in the shared cache either way.
+    thread_local EasyHandle curl;
     if (!curl) {
-        throw std::runtime_error("libcurl easy handle could not be created");
+        curl.reset(curl_easy_init());
+        if (!curl) {
+            throw std::runtime_error("libcurl easy handle could not be created");
+        }
     }
     CURL* handle = curl.get();
+    curl_easy_reset(handle);
+    // The options point into this call's locals; none may outlive it.
+    struct ResetOnExit
+    {
+        CURL* handle;
+        ~ResetOnExit() { curl_easy_reset(handle); }
+    } resetOnExit{handle};
     const bool post = ex.post;
     const bool carriesBody = post || !ex.body.empty();
     HeaderList headerList = BuildHeaderList(ex.headers, carriesBody);
