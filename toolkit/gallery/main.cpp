@@ -16,6 +16,13 @@
 
 using namespace DuiLib;
 
+namespace {
+
+const char kUsage[] =
+    "usage: toolkit-gallery [--png FILE] [--tab N] [--lang LANG] [--dpi N] [--rows N] [--root DIR]\n";
+
+}  // namespace
+
 int main(int argc, char** argv)
 {
     std::string png;
@@ -24,8 +31,16 @@ int main(int argc, char** argv)
     int tab = 0;
     int dpi = 96;
     int rows = 24;
-    for (int i = 1; i + 1 < argc; i += 2) {
+    for (int i = 1; i < argc; i += 2) {
         const std::string key = argv[i];
+        if (key == "--help" || key == "-h") {
+            std::printf("%s", kUsage);
+            return 0;
+        }
+        if (i + 1 >= argc) {
+            std::fprintf(stderr, "toolkit-gallery: %s needs a value\n%s", key.c_str(), kUsage);
+            return 2;
+        }
         const char* value = argv[i + 1];
         if (key == "--png") png = value;
         else if (key == "--tab") tab = std::atoi(value);
@@ -34,14 +49,20 @@ int main(int argc, char** argv)
         else if (key == "--rows") rows = std::atoi(value);
         else if (key == "--root") root = value;
         else {
-            std::fprintf(stderr, "toolkit-gallery: unknown option %s\n", key.c_str());
+            std::fprintf(stderr, "toolkit-gallery: unknown option %s\n%s", key.c_str(), kUsage);
             return 2;
         }
     }
     CPaintManagerUI::SetInstancePath(attr::Widen(root).c_str());
     CResourceManager::GetInstance()->SetLanguage(attr::Widen(lang).c_str());
     CDPI::SetProcessDPI(dpi);
-    if (!png.empty()) SetDefaultSurfaceKind(SurfaceKind::Offscreen);
+    if (!png.empty()) {
+        SetDefaultSurfaceKind(SurfaceKind::Offscreen);
+    } else if (DefaultSurfaceKind() == SurfaceKind::Offscreen) {
+        // A modal loop on an invisible surface could never be closed.
+        std::fprintf(stderr, "toolkit-gallery: no display to show the window on; use --png FILE\n");
+        return 2;
+    }
 
     gallery::GalleryWindow window(rows);
     if (window.Create(nullptr, L"Toolkit gallery", 0, 0, 0, 0, 0, 0) == nullptr) {
