@@ -149,14 +149,24 @@ std::string Emulator::ServiceUrl(const std::string& service) const
 
 bool Emulator::Run()
 {
-    return server_->listen_after_bind();
+    if (options_.startDelayMs > 0)
+        std::this_thread::sleep_for(std::chrono::milliseconds(options_.startDelayMs));
+    const bool served = server_->listen_after_bind();
+    runReturned_ = true;
+    return served;
 }
 
 void Emulator::Stop()
 {
     stopping_ = true;
-    if (server_)
-        server_->stop();
+    if (!server_)
+        return;
+    // httplib's stop() does nothing until listen has started, so a signal
+    // that arrives just after "ready" would otherwise be lost and the server
+    // would run on. Wait for the accept loop, unless it has already ended.
+    while (!server_->is_running() && !runReturned_)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    server_->stop();
 }
 
 bool Emulator::SleepUnlessStopping(int milliseconds) const

@@ -46,6 +46,7 @@ private:
     std::string caFile_;
     int port_ = 0;
     std::atomic<bool> stopping_{false};
+    std::atomic<bool> runReturned_{false};
 };
 
 } // namespace cloud

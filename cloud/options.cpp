@@ -45,6 +45,11 @@ bool ParseOptions(int argc, char** argv, Options& options, std::string& error)
                 error = error.empty() ? "--threads must be 2 to 256" : error;
                 return false;
             }
+        } else if (arg == "--start-delay-ms") {
+            if (!value(text) || !ParseInt(text, 0, 60000, options.startDelayMs)) {
+                error = error.empty() ? "--start-delay-ms must be 0 to 60000" : error;
+                return false;
+            }
         } else if (arg == "--fixture") {
             if (!value(options.fixture))
                 return false;

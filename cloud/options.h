@@ -5,6 +5,7 @@ namespace cloud {
 
 // The command line: spacemgm-cloud --port N --fixture FILE [--state FILE]
 // [--tls] [--faults FILE] [--write-config FILE] [--ca-file FILE] [--threads N]
+// [--start-delay-ms N]
 struct Options
 {
     int port = 0;            // 0: any free port
@@ -15,6 +16,7 @@ struct Options
     std::string writeConfig; // host configuration file pointing at this emulator
     std::string caFile;      // where --tls writes the CA certificate
     int threads = 16;        // worker threads; a hanging fault holds one
+    int startDelayMs = 0;    // pause between "ready" and the accept loop, to test early shutdown
 };
 
 // Parses argv; on a bad command line returns false with `error` set.

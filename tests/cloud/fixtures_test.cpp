@@ -158,6 +158,29 @@ TEST(Signals, InterruptStopsCleanly)
     EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
+// The server thread may not have entered its accept loop when "ready" is
+// printed; an interrupt in that window must still stop it. The start delay
+// holds the window open so that every round lands in it.
+TEST(Signals, InterruptBeforeTheAcceptLoopStillStops)
+{
+    for (int round = 0; round < 3; ++round) {
+        CloudEmulator::Options options;
+        options.startDelayMs = 300;
+        CloudEmulator cloud(options);
+        ASSERT_EQ(kill(cloud.Pid(), SIGINT), 0);
+        int status = 0;
+        pid_t ended = 0;
+        for (int waited = 0; waited < 10000 && ended == 0; waited += 10) {
+            ended = waitpid(cloud.Pid(), &status, WNOHANG);
+            if (ended == 0)
+                usleep(10 * 1000);
+        }
+        ASSERT_EQ(ended, cloud.Pid()) << "round " << round << ": still serving 10 s after SIGINT";
+        EXPECT_TRUE(WIFEXITED(status));
+        EXPECT_EQ(WEXITSTATUS(status), 0);
+    }
+}
+
 TEST(Binding, NotReachableFromAnotherAddress)
 {
     CloudEmulator cloud;

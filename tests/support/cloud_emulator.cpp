@@ -138,6 +138,8 @@ CloudEmulator::CloudEmulator(Options options) : options_(std::move(options))
         args.insert(args.end(), {"--state", options_.stateFile});
     if (!options_.faultsFile.empty())
         args.insert(args.end(), {"--faults", options_.faultsFile});
+    if (options_.startDelayMs > 0)
+        args.insert(args.end(), {"--start-delay-ms", std::to_string(options_.startDelayMs)});
 
     int pipeFds[2];
     if (::pipe2(pipeFds, O_CLOEXEC) != 0)

@@ -36,6 +36,7 @@ public:
         bool tls = false;
         std::string stateFile;  // --state; empty: the account lives in memory only
         std::string faultsFile; // --faults
+        int startDelayMs = 0;   // --start-delay-ms: serve only this long after "ready"
     };
 
     CloudEmulator();
