@@ -1,6 +1,7 @@
 #include "emulator.h"
 
 #include <chrono>
+#include <sys/socket.h>
 #include <thread>
 
 #include "fixture.h"
@@ -126,6 +127,10 @@ bool Emulator::Bind(std::string& error)
             return false;
         }
         port_ = options_.port;
+    }
+    if (!WidenListenBacklog(*server_, SOMAXCONN)) {
+        error = "cannot listen on 127.0.0.1:" + std::to_string(port_);
+        return false;
     }
     return true;
 }

@@ -158,14 +158,27 @@ void SetSocketTimeouts(int sock, time_t seconds)
     ::setsockopt(sock, SOL_SOCKET, SO_SNDTIMEO, &tv, sizeof tv);
 }
 
+class ListenBacklog
+{
+public:
+    virtual ~ListenBacklog() = default;
+    virtual bool Widen(int backlog) = 0;
+};
+
 // httplib's keep-alive loop, over a recording stream. It also ends an idle
 // connection as soon as the server stops, where the library would wait out
 // the whole keep-alive time first.
 template <class Base>
-class RawHeaderServer : public Base
+class RawHeaderServer : public Base, public ListenBacklog
 {
 public:
     using Base::Base;
+
+    bool Widen(int backlog) override
+    {
+        const int sock = this->svr_sock_;
+        return sock != INVALID_SOCKET && ::listen(sock, backlog) == 0;
+    }
 
 protected:
     bool ServeConnection(RecordingStream& stream, SSL* ssl)
@@ -257,6 +270,12 @@ std::unique_ptr<httplib::Server> MakeRawHeaderServer()
 std::unique_ptr<httplib::Server> MakeRawHeaderTlsServer(X509* certificate, EVP_PKEY* privateKey)
 {
     return std::make_unique<TlsServer>(certificate, privateKey);
+}
+
+bool WidenListenBacklog(httplib::Server& server, int backlog)
+{
+    auto* listening = dynamic_cast<ListenBacklog*>(&server);
+    return listening != nullptr && listening->Widen(backlog);
 }
 
 void AddEmptyHeaders(const std::string& head, httplib::Headers& headers)

@@ -18,6 +18,14 @@ namespace cloud {
 std::unique_ptr<httplib::Server> MakeRawHeaderServer();
 std::unique_ptr<httplib::Server> MakeRawHeaderTlsServer(X509* certificate, EVP_PKEY* privateKey);
 
+// httplib 0.11 listens with a backlog of 5. When a dozen clients connect at
+// once and the accept thread is slow to run (TLS handshakes keep both cores
+// busy), the kernel drops the surplus SYNs and each of those clients waits a
+// whole second for its retransmission. Listening again on the bound socket of
+// a server made above raises the backlog; returns false for any other server
+// or when the socket is not bound.
+bool WidenListenBacklog(httplib::Server& server, int backlog);
+
 // Adds to `headers` each header line of `head` (request line, header lines,
 // blank line) whose value is empty or blank and that is not there yet.
 void AddEmptyHeaders(const std::string& head, httplib::Headers& headers);
