@@ -3,6 +3,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 #include "host/curl_connection_cache.h"
 
@@ -66,12 +67,12 @@ size_t CollectBody(char* data, size_t size, size_t count, void* target)
     return size * count;
 }
 
-std::string Trim(const std::string& text)
+std::string_view Trim(std::string_view text)
 {
     const char* blanks = " \t\r\n";
     const size_t first = text.find_first_not_of(blanks);
-    if (first == std::string::npos) {
-        return std::string();
+    if (first == std::string_view::npos) {
+        return std::string_view();
     }
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
@@ -81,14 +82,14 @@ std::string Trim(const std::string& text)
 size_t CollectHeader(char* data, size_t size, size_t count, void* target)
 {
     auto* headers = static_cast<AnyHttpHeaderMap*>(target);
-    const std::string line(data, size * count);
+    const std::string_view line(data, size * count);
     if (line.compare(0, 5, "HTTP/") == 0) {
         headers->clear();
         return size * count;
     }
     const size_t colon = line.find(':');
-    if (colon != std::string::npos && colon > 0) {
-        (*headers)[Trim(line.substr(0, colon))] = Trim(line.substr(colon + 1));
+    if (colon != std::string_view::npos && colon > 0) {
+        (*headers)[std::string(Trim(line.substr(0, colon)))] = std::string(Trim(line.substr(colon + 1)));
     }
     return size * count;
 }
@@ -101,8 +102,9 @@ CResponseInfo PerformCurlExchange(const CurlExchangeSpec& ex, AnyHttpHeaderMap& 
 
     // Each thread keeps one easy handle: a fresh handle builds its own
     // internal state (a wake-up socket pair among it) on every exchange,
-    // which costs more than a loopback round trip. The options are reset on
-    // each use; connections stay in the shared cache either way.
+    // which costs more than a loopback round trip. The options are reset
+    // after each use, so every exchange starts from a clean handle;
+    // connections stay in the shared cache either way.
     thread_local EasyHandle curl;
     if (!curl) {
         curl.reset(curl_easy_init());
@@ -111,7 +113,6 @@ CResponseInfo PerformCurlExchange(const CurlExchangeSpec& ex, AnyHttpHeaderMap& 
         }
     }
     CURL* handle = curl.get();
-    curl_easy_reset(handle);
     // The options point into this call's locals; none may outlive it.
     struct ResetOnExit
     {

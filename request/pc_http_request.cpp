@@ -98,6 +98,26 @@ void ReadBaseResult(const std::string& body)
     ReadRecord(discarded, body);
 }
 
+bool ReadBaseResult(const std::string& body, Json::Value& parsed)
+{
+    if (!ParseJson(body, parsed)) {
+        return false;
+    }
+    BaseResult discarded;
+    ReadParsedRecord(discarded, parsed);
+    return true;
+}
+
+void ReadParsedRecord(SerializableObject& record, const Json::Value& value)
+{
+    try {
+        record.FromJson(value);
+    } catch (...) {
+        // A field of the wrong type ends the reading; the record keeps what
+        // it had read, as ReadRecord leaves it.
+    }
+}
+
 bool IsEmptyReply(const std::string& reply)
 {
     return reply.empty() || reply == "[]";
@@ -118,7 +138,12 @@ CResponseInfo PCHttpRequest::EmptyResponse()
 
 void PCHttpRequest::AddHeaders()
 {
-    for (const auto& [name, value] : GetCommonHeaders()) {
+    // Merged under the map's mutex straight from the shared map: the same
+    // entries GetCommonHeaders would copy out, without the copy.
+    std::lock_guard<std::mutex> lock(commonHeadersMutex);
+    FillCommonHeadersOnce();
+    AddSessionOnce();
+    for (const auto& [name, value] : commonHeaders) {
         requestHeaders.emplace(name, value);
     }
 }
@@ -165,6 +190,7 @@ std::string PCHttpRequest::SendRaw(int32_t& status, std::string& errorText, std:
 {
     errorText.clear();
     status = -1;
+    replyParsed_ = false;
     CResponseInfo response;
     std::string bodyText;
     if (auto finished = std::dynamic_pointer_cast<PostableString>(body)) {
@@ -191,7 +217,7 @@ std::string PCHttpRequest::SendRaw(int32_t& status, std::string& errorText, std:
         }
         status = response.status;
         if (status == 200) {
-            pc_http_detail::ReadBaseResult(response.body);
+            replyParsed_ = pc_http_detail::ReadBaseResult(response.body, parsedReply_);
         }
     } catch (...) {
         // A failed send is an empty reply; the caller gets a null record.

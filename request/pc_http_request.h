@@ -82,6 +82,14 @@ public:
 
 protected:
     void SetTraceAndPath(const AdvancedIntEnumType& type, bool appendTraceId);
+
+private:
+    // The tree SendRaw built while reading a 200 reply into its BaseResult.
+    // ExecuteRequest decodes its record from it rather than parsing the same
+    // text a second time; without it (another status, or text that is not
+    // JSON) the record parses the reply itself.
+    Json::Value parsedReply_;
+    bool replyParsed_ = false;
 };
 
 // The timeout of an exchange for `url`: 100 seconds, or 30000 when the URL
@@ -101,6 +109,14 @@ namespace pc_http_detail {
 // Parses a 200 reply into a BaseResult and drops it, as the send step always
 // did; nothing depends on what it finds.
 void ReadBaseResult(const std::string& body);
+
+// The same read, keeping the parsed tree in `parsed`. False when the body is
+// not JSON; `parsed` is then unspecified.
+bool ReadBaseResult(const std::string& body, Json::Value& parsed);
+
+// What ReadRecord does once its text has parsed: the record reads `value`,
+// and a wrong type ends the reading where it happened.
+void ReadParsedRecord(SerializableObject& record, const Json::Value& value);
 
 bool IsEmptyReply(const std::string& reply);
 
@@ -145,7 +161,11 @@ std::shared_ptr<T> PCHttpRequest::ExecuteRequest(int32_t& status)
             return nullptr;
         }
         result = std::make_shared<T>();
-        ReadRecord(*result, reply);
+        if (replyParsed_) {
+            pc_http_detail::ReadParsedRecord(*result, parsedReply_);
+        } else {
+            ReadRecord(*result, reply);
+        }
     } catch (...) {
         // A record that throws while reading itself (a wrong JSON type) stays
         // as far as it was filled; the caller judges it by its fields.
