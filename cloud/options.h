@@ -15,7 +15,7 @@ struct Options
     std::string faults;      // a JSON array of fault rules
     std::string writeConfig; // host configuration file pointing at this emulator
     std::string caFile;      // where --tls writes the CA certificate
-    int threads = 16;        // worker threads; a hanging fault holds one
+    int threads = 64;        // worker threads; a hanging fault or an idle kept-alive connection holds one
     int startDelayMs = 0;    // pause between "ready" and the accept loop, to test early shutdown
 };
 
