@@ -176,11 +176,14 @@ void Emulator::Stop()
 
 bool Emulator::SleepUnlessStopping(int milliseconds) const
 {
-    auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-    while (std::chrono::steady_clock::now() < until) {
+    // Sleeps in slices so that a stop is noticed, but never past the end: a
+    // whole last slice would add up to 20 ms to every delayed request.
+    const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+    const auto slice = std::chrono::milliseconds(20);
+    for (auto now = std::chrono::steady_clock::now(); now < until; now = std::chrono::steady_clock::now()) {
         if (stopping_)
             return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(std::min(20, milliseconds)));
+        std::this_thread::sleep_for(std::min<std::chrono::steady_clock::duration>(slice, until - now));
     }
     return true;
 }
