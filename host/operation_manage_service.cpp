@@ -12,11 +12,8 @@
 #include <string>
 #include <system_error>
 
-#include "foundation/utilities.h"
 #include "host/host_config.h"
-#include "platform/any_basic_http_lib_context.h"
-#include "platform/any_basic_http_lib_strategy.h"
-#include "platform/user_auth_service.h"
+#include "host/session_get.h"
 
 namespace {
 
@@ -74,16 +71,8 @@ bool COperationManageService::GetSpaceOMConfig()
     if (config.services.omConfig.empty() || config.dataDir.empty()) {
         return false;
     }
-    AnyBasicHttpLibStrategy strategy;
-    strategy.SetUrl(config.services.omConfig);
-    strategy.SetHttpRequestMethod(0);
-    strategy.SetLogFunction([](const std::string&) {});
-    const UserAuthService* auth = UserAuthService::GetInstance();
-    strategy.SetHeaders({{"Authorization", "Bearer " + WideToUtf8(auth->GetCurrentAT())},
-                         {"uid", WideToUtf8(auth->GetCurrentUserID())}});
-    AnyCurlHttpLibContext context(strategy);
     std::string body;
-    if (context.Request(body) != 200) {
+    if (host::GetAsSignedInUser(config.services.omConfig, body) != 200) {
         // The previous file, or none, stays in place.
         return false;
     }

@@ -7,11 +7,8 @@
 #include <memory>
 #include <string>
 
-#include "foundation/utilities.h"
 #include "host/host_config.h"
-#include "platform/any_basic_http_lib_context.h"
-#include "platform/any_basic_http_lib_strategy.h"
-#include "platform/user_auth_service.h"
+#include "host/session_get.h"
 
 namespace NS {
 namespace Drive {
@@ -63,17 +60,8 @@ bool UserSpace::QueryUserSpace(UserSpaceInfo& info, bool /*force*/)
     if (url.empty()) {
         return false;
     }
-    AnyBasicHttpLibStrategy strategy;
-    strategy.SetUrl(url);
-    strategy.SetHttpRequestMethod(0);
-    strategy.SetLogFunction([](const std::string&) {});
-    const UserAuthService* auth = UserAuthService::GetInstance();
-    strategy.SetHeaders({{"Authorization", "Bearer " + WideToUtf8(auth->GetCurrentAT())},
-                         {"uid", WideToUtf8(auth->GetCurrentUserID())}});
-    AnyCurlHttpLibContext context(strategy);
     std::string body;
-    const int status = context.Request(body);
-    if (status != 200) {
+    if (host::GetAsSignedInUser(url, body) != 200) {
         return false;
     }
     return ParseQuotaReply(body, info);

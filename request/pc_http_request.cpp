@@ -90,6 +90,17 @@ void AcceptRetryAfter(const std::string& headerValue)
     }
 }
 
+void RememberCloudPhotoRetryAfter(const std::string& requestUrl, const AnyHttpHeaderMap& responseHeaders)
+{
+    // Only the cloud photo service's Retry-After is remembered; the test is
+    // against the first interface's address, which the second one shares.
+    const std::string photoUrl = WideToUtf8(GlobalParamWrapper::GetInstance()->GetCloudPhotoUrl());
+    const auto retryAfter = responseHeaders.find("Retry-After");
+    if (Contains(requestUrl, photoUrl) && retryAfter != responseHeaders.end()) {
+        AcceptRetryAfter(retryAfter->second);
+    }
+}
+
 namespace pc_http_detail {
 
 void ReadBaseResult(const std::string& body)
@@ -209,12 +220,7 @@ std::string PCHttpRequest::SendRaw(int32_t& status, std::string& errorText, std:
         AnyHttpHeaderMap responseHeaders;
         response = SendWebRequest(responseHeaders);
 
-        // Only the cloud photo service's Retry-After is remembered.
-        const std::string photoUrl = WideToUtf8(GlobalParamWrapper::GetInstance()->GetCloudPhotoUrl());
-        const auto retryAfter = responseHeaders.find("Retry-After");
-        if (Contains(url, photoUrl) && retryAfter != responseHeaders.end()) {
-            AcceptRetryAfter(retryAfter->second);
-        }
+        RememberCloudPhotoRetryAfter(url, responseHeaders);
         status = response.status;
         if (status == 200) {
             replyParsed_ = pc_http_detail::ReadBaseResult(response.body, parsedReply_);

@@ -103,6 +103,10 @@ int32_t RequestTimeoutFor(const std::string& url);
 // expects; updates retryAfterSeconds only when the first token is all digits.
 void AcceptRetryAfter(const std::string& headerValue);
 
+// Takes the reply's "Retry-After" into `retryAfterSeconds` when the request
+// went to the cloud photo service; other services never touch it.
+void RememberCloudPhotoRetryAfter(const std::string& requestUrl, const AnyHttpHeaderMap& responseHeaders);
+
 // Helpers shared by the exchange and the V2 about request.
 namespace pc_http_detail {
 

@@ -69,12 +69,7 @@ std::string CloudPhotoV2PCHttpRequest::SendRaw(int32_t& status, std::string& err
         AnyHttpHeaderMap responseHeaders;
         response = SendWebRequest(responseHeaders);
 
-        // Tested against the first interface's address, as the throttle always was.
-        const std::string photoUrl = WideToUtf8(GlobalParamWrapper::GetInstance()->GetCloudPhotoUrl());
-        const auto retryAfter = responseHeaders.find("Retry-After");
-        if (Contains(url, photoUrl) && retryAfter != responseHeaders.end()) {
-            AcceptRetryAfter(retryAfter->second);
-        }
+        RememberCloudPhotoRetryAfter(url, responseHeaders);
         status = response.status;
         pc_http_detail::ReadBaseResult(response.body);
     } catch (...) {
