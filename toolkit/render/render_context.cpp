@@ -239,14 +239,7 @@ bool RenderContext::IsVisible(const RECT& rect) const
 SIZE MeasureText(const std::wstring& text, const HFONT__& font, UINT style, int maxWidth, double scale)
 {
     PangoContext* context = MeasuringContext();
-    PangoLayout* layout = MakeLayout(context, text, font, style, maxWidth, scale > 0 ? scale : 1.0);
-    PangoRectangle logical{};
-    pango_layout_get_extents(layout, nullptr, &logical);
-    g_object_unref(layout);
-    SIZE size;
-    size.cx = static_cast<LONG>(std::ceil(static_cast<double>(logical.width) / PANGO_SCALE));
-    size.cy = static_cast<LONG>(std::ceil(static_cast<double>(logical.height) / PANGO_SCALE));
-    return size;
+    return TakeLayoutSize(MakeLayout(context, text, font, style, maxWidth, scale > 0 ? scale : 1.0));
 }
 
 }  // namespace DuiLib

@@ -38,6 +38,11 @@ SIZE MeasureSingleLine(const HFONT__& font, const std::wstring& text)
     pango_layout_set_font_description(layout, font.description);
     const std::string utf8 = attr::Narrow(text);
     pango_layout_set_text(layout, utf8.c_str(), static_cast<int>(utf8.size()));
+    return TakeLayoutSize(layout);
+}
+
+SIZE TakeLayoutSize(PangoLayout* layout)
+{
     PangoRectangle logical{};
     pango_layout_get_extents(layout, nullptr, &logical);
     g_object_unref(layout);

@@ -9,6 +9,7 @@
 
 struct HFONT__;
 typedef struct _PangoContext PangoContext;
+typedef struct _PangoLayout PangoLayout;
 
 namespace DuiLib {
 
@@ -20,5 +21,9 @@ PangoContext* MeasuringContext();
 // pixels for paint manager fonts). Empty text has width 0 and the line
 // height of the font.
 SIZE MeasureSingleLine(const HFONT__& font, const std::wstring& text);
+
+// The logical extents of `layout` in whole pixels, rounded up; releases the
+// layout.
+SIZE TakeLayoutSize(PangoLayout* layout);
 
 }  // namespace DuiLib

@@ -13,6 +13,7 @@
 
 #include "toolkit/core/attributes.h"
 #include "toolkit/win32/message_queue.h"
+#include "toolkit/window/canvas.h"
 #include "toolkit/window/native_surface.h"
 
 namespace DuiLib {
@@ -184,19 +185,14 @@ public:
     cairo_t* BeginPaint(int width, int height) override
     {
         if (width <= 0 || height <= 0) return nullptr;
-        if (!m_canvas || cairo_image_surface_get_width(m_canvas) != width ||
-            cairo_image_surface_get_height(m_canvas) != height) {
-            if (m_canvas) cairo_surface_destroy(m_canvas);
+        bool remade = false;
+        cairo_t* cr = BeginCanvasFrame(m_canvas, width, height, &remade);
+        if (remade) {
             if (m_texture) SDL_DestroyTexture(m_texture);
-            m_canvas = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height);
             m_texture = SDL_CreateTexture(m_renderer, SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
                                           width, height);
             SDL_SetTextureBlendMode(m_texture, SDL_BLENDMODE_BLEND);
         }
-        cairo_t* cr = cairo_create(m_canvas);
-        cairo_set_operator(cr, CAIRO_OPERATOR_CLEAR);
-        cairo_paint(cr);
-        cairo_set_operator(cr, CAIRO_OPERATOR_OVER);
         return cr;
     }
 

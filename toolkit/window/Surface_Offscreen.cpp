@@ -3,6 +3,7 @@
 
 #include <cairo.h>
 
+#include "toolkit/window/canvas.h"
 #include "toolkit/window/native_surface.h"
 
 namespace DuiLib {
@@ -22,16 +23,7 @@ public:
     cairo_t* BeginPaint(int width, int height) override
     {
         if (width <= 0 || height <= 0) return nullptr;
-        if (!m_canvas || cairo_image_surface_get_width(m_canvas) != width ||
-            cairo_image_surface_get_height(m_canvas) != height) {
-            if (m_canvas) cairo_surface_destroy(m_canvas);
-            m_canvas = cairo_image_surface_create(CAIRO_FORMAT_ARGB32, width, height);
-        }
-        cairo_t* cr = cairo_create(m_canvas);
-        cairo_set_operator(cr, CAIRO_OPERATOR_CLEAR);
-        cairo_paint(cr);
-        cairo_set_operator(cr, CAIRO_OPERATOR_OVER);
-        return cr;
+        return BeginCanvasFrame(m_canvas, width, height);
     }
 
     void EndPaint(cairo_t* cr) override
