@@ -53,4 +53,15 @@ const NspFile* AccountData::FindFile(const std::string& path) const
     return nullptr;
 }
 
+Json::Value DeviceToJson(const DeviceInfo& d)
+{
+    Json::Value v;
+    v["deviceId"] = d.deviceId;
+    v["deviceType"] = d.deviceType;
+    v["terminalType"] = d.terminalType;
+    v["aliasName"] = d.aliasName;
+    v["devDisplayName"] = d.devDisplayName;
+    return v;
+}
+
 } // namespace cloud

@@ -86,6 +86,9 @@ struct DeviceInfo
     std::string devDisplayName;
 };
 
+// A device as the backup servlet and the account files write it.
+Json::Value DeviceToJson(const DeviceInfo& device);
+
 struct BackupEntry
 {
     std::string backupId;

@@ -9,17 +9,6 @@ namespace cloud {
 
 namespace {
 
-Json::Value DeviceJson(const DeviceInfo& d)
-{
-    Json::Value v;
-    v["deviceId"] = d.deviceId;
-    v["deviceType"] = d.deviceType;
-    v["terminalType"] = d.terminalType;
-    v["aliasName"] = d.aliasName;
-    v["devDisplayName"] = d.devDisplayName;
-    return v;
-}
-
 Json::Value Result(int code, const std::string& info)
 {
     Json::Value v;
@@ -53,7 +42,7 @@ Reply QueryAllBackups(const Call& call, const Json::Value& body)
     for (const auto& owner : call.account.backups) {
         for (const auto& entry : owner.backups) {
             Json::Value r;
-            r["device"] = DeviceJson(owner.device);
+            r["device"] = DeviceToJson(owner.device);
             r["status"] = entry.status;
             r["type"] = entry.type;
             r["size"] = Json::Int64(entry.size);
@@ -120,13 +109,13 @@ Reply CountByDevice(const Call& call, const Json::Value& body)
     size_t last = 0;
     for (size_t index : asked) {
         Json::Value c;
-        c["device"] = DeviceJson(devices[index].device);
+        c["device"] = DeviceToJson(devices[index].device);
         c["count"] = type == "sms" ? devices[index].sms : devices[index].callLog;
         reply["countRet"].append(c);
         last = std::max(last, index + 1);
     }
     for (size_t i = last; i < std::min(last + page, devices.size()) && !asked.empty(); ++i)
-        reply["deviceList"].append(DeviceJson(devices[i].device));
+        reply["deviceList"].append(DeviceToJson(devices[i].device));
     return JsonReply(reply);
 }
 

@@ -133,17 +133,6 @@ DeviceInfo ReadDevice(const Reader& r, const Json::Value& v, const std::string& 
     return d;
 }
 
-Json::Value DeviceToJson(const DeviceInfo& d)
-{
-    Json::Value v;
-    v["deviceId"] = d.deviceId;
-    v["deviceType"] = d.deviceType;
-    v["terminalType"] = d.terminalType;
-    v["aliasName"] = d.aliasName;
-    v["devDisplayName"] = d.devDisplayName;
-    return v;
-}
-
 void ReadPim(const Reader& r, const Json::Value& root, AccountData& account)
 {
     const std::string place = "pim";
