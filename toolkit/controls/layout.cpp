@@ -35,6 +35,59 @@ int Align(int start, int room, int size, bool centre, bool end)
     return start;
 }
 
+// How a stack measures its children along the axis it stacks them on.
+struct VerticalAxis {
+    static int Wanted(const Child& c) { return c.wanted.cy; }
+    static int Before(const Child& c) { return c.padding.top; }
+    static int After(const Child& c) { return c.padding.bottom; }
+    static int Min(const Child& c) { return c.control->GetMinHeight(); }
+    static int Max(const Child& c) { return c.control->GetMaxHeight(); }
+};
+
+struct HorizontalAxis {
+    static int Wanted(const Child& c) { return c.wanted.cx; }
+    static int Before(const Child& c) { return c.padding.left; }
+    static int After(const Child& c) { return c.padding.right; }
+    static int Min(const Child& c) { return c.control->GetMinWidth(); }
+    static int Max(const Child& c) { return c.control->GetMaxWidth(); }
+};
+
+// The children's extents along a stack of `room` pixels: a child with a
+// size of its own keeps it (within its limits); the others share what is
+// left, the last of them taking the rounding remainder.
+struct StackSplit {
+    std::vector<int> sizes;
+    int fixedTotal = 0;  // paddings, gaps and own sizes: the stack's extent when nothing is flexible
+    int flexible = 0;
+};
+
+template <class Axis>
+StackSplit SplitStack(const std::vector<Child>& children, int room, int childPadding)
+{
+    StackSplit split;
+    split.fixedTotal = childPadding * static_cast<int>(children.size() - 1);
+    for (const auto& child : children) {
+        split.fixedTotal += Axis::Before(child) + Axis::After(child);
+        if (Axis::Wanted(child) > 0) {
+            split.fixedTotal += Clamp(Axis::Wanted(child), Axis::Min(child), Axis::Max(child));
+        } else {
+            ++split.flexible;
+        }
+    }
+    int remaining = std::max(0, room - split.fixedTotal);
+    int flexibleLeft = split.flexible;
+    for (const auto& child : children) {
+        int size = Axis::Wanted(child);
+        if (size <= 0) {
+            size = flexibleLeft == 1 ? remaining : remaining / flexibleLeft;
+            remaining -= size;
+            --flexibleLeft;
+        }
+        split.sizes.push_back(Clamp(size, Axis::Min(child), Axis::Max(child)));
+    }
+    return split;
+}
+
 }  // namespace
 
 int StackLayout::Arrange(CContainerUI& owner, const RECT& area, int scrollY)
@@ -75,36 +128,18 @@ int VerticalStackLayout::Arrange(CContainerUI& owner, const RECT& area, int scro
     auto children = VisibleChildren(owner, available);
     if (children.empty()) return 0;
 
-    int fixedTotal = owner.GetChildPadding() * static_cast<int>(children.size() - 1);
-    int flexible = 0;
-    for (const auto& child : children) {
-        fixedTotal += child.padding.top + child.padding.bottom;
-        if (child.wanted.cy > 0) {
-            fixedTotal += Clamp(child.wanted.cy, child.control->GetMinHeight(), child.control->GetMaxHeight());
-        } else {
-            ++flexible;
-        }
-    }
-    int remaining = std::max(0, static_cast<int>(available.cy) - fixedTotal);
-    int flexibleLeft = flexible;
+    const StackSplit split = SplitStack<VerticalAxis>(children, available.cy, owner.GetChildPadding());
 
     int y = area.top - scrollY;
-    if (flexible == 0) {
-        y = Align(y, available.cy, fixedTotal, owner.GetChildVAlign() & DT_VCENTER,
+    if (split.flexible == 0) {
+        y = Align(y, available.cy, split.fixedTotal, owner.GetChildVAlign() & DT_VCENTER,
                   owner.GetChildVAlign() & DT_BOTTOM);
     }
     const int top = y;
     for (std::size_t i = 0; i < children.size(); ++i) {
         auto& child = children[i];
         const RECT& pad = child.padding;
-        int h = child.wanted.cy;
-        if (h <= 0) {
-            // The last flexible child takes the rounding remainder.
-            h = flexibleLeft == 1 ? remaining : remaining / flexibleLeft;
-            remaining -= h;
-            --flexibleLeft;
-        }
-        h = Clamp(h, child.control->GetMinHeight(), child.control->GetMaxHeight());
+        const int h = split.sizes[i];
         const int roomW = available.cx - pad.left - pad.right;
         const int w = Clamp(child.wanted.cx > 0 ? child.wanted.cx : roomW, child.control->GetMinWidth(),
                             child.control->GetMaxWidth());
@@ -136,34 +171,18 @@ int HorizontalStackLayout::Arrange(CContainerUI& owner, const RECT& area, int sc
     auto children = VisibleChildren(owner, available);
     if (children.empty()) return 0;
 
-    int fixedTotal = owner.GetChildPadding() * static_cast<int>(children.size() - 1);
-    int flexible = 0;
-    for (const auto& child : children) {
-        fixedTotal += child.padding.left + child.padding.right;
-        if (child.wanted.cx > 0) {
-            fixedTotal += Clamp(child.wanted.cx, child.control->GetMinWidth(), child.control->GetMaxWidth());
-        } else {
-            ++flexible;
-        }
-    }
-    int remaining = std::max(0, static_cast<int>(available.cx) - fixedTotal);
-    int flexibleLeft = flexible;
+    const StackSplit split = SplitStack<HorizontalAxis>(children, available.cx, owner.GetChildPadding());
 
     int x = area.left;
-    if (flexible == 0) {
-        x = Align(x, available.cx, fixedTotal, owner.GetChildAlign() & DT_CENTER, owner.GetChildAlign() & DT_RIGHT);
+    if (split.flexible == 0) {
+        x = Align(x, available.cx, split.fixedTotal, owner.GetChildAlign() & DT_CENTER,
+                  owner.GetChildAlign() & DT_RIGHT);
     }
     int contentHeight = 0;
     for (std::size_t i = 0; i < children.size(); ++i) {
         auto& child = children[i];
         const RECT& pad = child.padding;
-        int w = child.wanted.cx;
-        if (w <= 0) {
-            w = flexibleLeft == 1 ? remaining : remaining / flexibleLeft;
-            remaining -= w;
-            --flexibleLeft;
-        }
-        w = Clamp(w, child.control->GetMinWidth(), child.control->GetMaxWidth());
+        const int w = split.sizes[i];
         const int roomH = available.cy - pad.top - pad.bottom;
         const int h = Clamp(child.wanted.cy > 0 ? child.wanted.cy : roomH, child.control->GetMinHeight(),
                             child.control->GetMaxHeight());
