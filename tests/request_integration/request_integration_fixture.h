@@ -32,9 +32,8 @@ inline const char* const kAuthTypeOfTheApp = "Y29tLnplcGhyYS5jbG91ZC5wYw==";
 
 inline CloudEmulator::Options CloudOptions(bool tls, const std::string& fixture = "sample")
 {
-    CloudEmulator::Options options;
+    CloudEmulator::Options options = CloudEmulator::Options::ForFixture(fixture);
     options.tls = tls;
-    options.fixture = fixture;
     return options;
 }
 

@@ -12,13 +12,6 @@ namespace {
 
 using spacemgm_test::CloudEmulator;
 
-CloudEmulator::Options EmptyAccount()
-{
-    CloudEmulator::Options options;
-    options.fixture = "empty";
-    return options;
-}
-
 std::vector<std::string> Messages(const Logger::ScopedMemorySink& sink, const std::string& function)
 {
     std::vector<std::string> messages;
@@ -207,7 +200,7 @@ TEST(DeleteLIstBK, RemovesOnlyTheFirstMatchingRow)
 
 TEST(GetCloudInfo, FailedBackupQueryKeepsTheRowsOfTheLoadBefore)
 {
-    CloudEmulator cloud(EmptyAccount());
+    CloudEmulator cloud(CloudEmulator::Options::ForFixture("empty"));
     UseGeneration(cloud, "v3queryfailed");
     space_test::WiredViewModel wired;
     wired.viewModel.model->backups = {Row("kept")};
@@ -221,7 +214,7 @@ TEST(GetCloudInfo, FailedBackupQueryKeepsTheRowsOfTheLoadBefore)
 
 TEST(GetCloudInfo, EmptyAccountLeavesItemsEmptyAndDefaultTypeOne)
 {
-    CloudEmulator cloud(EmptyAccount());
+    CloudEmulator cloud(CloudEmulator::Options::ForFixture("empty"));
     UseGeneration(cloud, "v1");
     space_test::WiredViewModel wired;
     Logger::ScopedMemorySink sink;

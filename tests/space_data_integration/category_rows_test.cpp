@@ -12,13 +12,6 @@ namespace {
 
 using spacemgm_test::CloudEmulator;
 
-CloudEmulator::Options EmptyAccount()
-{
-    CloudEmulator::Options options;
-    options.fixture = "empty";
-    return options;
-}
-
 Json::Value Fixture(const std::string& name)
 {
     std::ifstream in(CloudEmulator::FixturePath(name));
@@ -113,7 +106,7 @@ TEST(SampleAccount, EveryCategoryYieldsItsRow)
 
 TEST(EmptyAccount, YieldsNoRowAtAll)
 {
-    CloudEmulator cloud(EmptyAccount());
+    CloudEmulator cloud(CloudEmulator::Options::ForFixture("empty"));
     EXPECT_TRUE(LoadRows(cloud).empty());
 }
 

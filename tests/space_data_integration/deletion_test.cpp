@@ -13,13 +13,6 @@ namespace {
 
 using spacemgm_test::CloudEmulator;
 
-CloudEmulator::Options Account(const char* fixture)
-{
-    CloudEmulator::Options options;
-    options.fixture = fixture;
-    return options;
-}
-
 std::vector<std::string> BackupLines(const Logger::ScopedMemorySink& sink)
 {
     std::vector<std::string> lines;
@@ -82,7 +75,7 @@ void AnswerRemoval(CloudEmulator& cloud, const std::string& body)
 
 TEST(BackupRoadV3, RowsComeFromTheHostListAndTheQuotaLineCarriesCodeAndUsed)
 {
-    CloudEmulator cloud(Account("v2"));
+    CloudEmulator cloud(CloudEmulator::Options::ForFixture("v2"));
     host::SetCurrentHostConfig(space_test::ConfigFor(cloud));
     space_test::WiredViewModel wired;
     Logger::ScopedMemorySink sink;
@@ -108,7 +101,7 @@ TEST(BackupRoadV3, RowsComeFromTheHostListAndTheQuotaLineCarriesCodeAndUsed)
 
 TEST(BackupRoadV3, DeviceTheHostDoesNotKnowGetsAnEmptyName)
 {
-    CloudEmulator cloud(Account("v2"));
+    CloudEmulator cloud(CloudEmulator::Options::ForFixture("v2"));
     host::HostConfig config = space_test::ConfigFor(cloud);
     config.backupDevices = {{"dev-0002", "Pad"}, {"dev-9999", "Ghost"}};
     host::SetCurrentHostConfig(config);
@@ -235,7 +228,7 @@ TEST(DeleteBackItem, NoReplyIsAFailure)
 
 TEST(DeleteBackUp, VersionThreeGoesThroughTheHostToTheBackupService)
 {
-    CloudEmulator cloud(Account("v2"));
+    CloudEmulator cloud(CloudEmulator::Options::ForFixture("v2"));
     host::SetCurrentHostConfig(space_test::ConfigFor(cloud));
     space_test::WiredViewModel wired;
     wired.viewModel.GetCloudInfo();
@@ -314,7 +307,7 @@ TEST(DeleteHarassment, EveryOtherTypeRemovesOnlyThePhoneManagerFiles)
 
 TEST(DeleteHarassment, EmptyAccountHasNothingToDelete)
 {
-    CloudEmulator cloud(Account("empty"));
+    CloudEmulator cloud(CloudEmulator::Options::ForFixture("empty"));
     host::SetCurrentHostConfig(space_test::ConfigFor(cloud));
     space_test::WiredViewModel wired;
     cloud.ClearLog();

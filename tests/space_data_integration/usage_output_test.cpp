@@ -136,9 +136,7 @@ TEST(UsageOutput, JsonCarriesTheSameReport)
 
 TEST(UsageOutput, EmptyAccountShowsNoRows)
 {
-    CloudEmulator::Options options;
-    options.fixture = "empty";
-    CloudEmulator cloud(options);
+    CloudEmulator cloud(CloudEmulator::Options::ForFixture("empty"));
     const ProgramRun run = RunUsage(cloud, "");
     ASSERT_EQ(run.exitCode, 0) << run.output;
     const auto lines = Lines(run.output);

@@ -20,6 +20,7 @@
 // Uses only libcurl, jsoncpp and POSIX: it does not depend on the module.
 #include <map>
 #include <string>
+#include <utility>
 #include <sys/types.h>
 #include <vector>
 
@@ -37,6 +38,14 @@ public:
         std::string stateFile;  // --state; empty: the account lives in memory only
         std::string faultsFile; // --faults
         int startDelayMs = 0;   // --start-delay-ms: serve only this long after "ready"
+
+        // The options of an emulator serving one of the fixtures.
+        static Options ForFixture(std::string name)
+        {
+            Options options;
+            options.fixture = std::move(name);
+            return options;
+        }
     };
 
     CloudEmulator();
