@@ -7,7 +7,7 @@ namespace cloud {
 const std::vector<PimService>& PimServices()
 {
     static const std::vector<PimService> services = {
-        {"contact", "1000", "/Statistic/Contact"}, {"notepad", "1001", "/Statistic/Notepad"},
+        {"contact", "1000", "/Statistic/Contact"},   {"notepad", "1001", "/Statistic/Notepad"},
         {"calendar", "1002", "/Statistic/Calendar"}, {"wlan", "1004", "/Statistic/Wlan"},
         {"browser", "1005", "/Statistic/Browser"},
     };

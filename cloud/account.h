@@ -153,9 +153,9 @@ struct AccountData
     std::vector<BackupOwner> backups;
     int messagePageSize = 50;
     std::vector<MessageDevice> messageDevices;
-    std::vector<NspFile> files;       // sorted by path
-    std::set<std::string> folders;    // every folder, including the parents of files
-    Json::Value omConfig;             // null: no configuration file to download
+    std::vector<NspFile> files;    // sorted by path
+    std::set<std::string> folders; // every folder, including the parents of files
+    Json::Value omConfig;          // null: no configuration file to download
     Json::Value faults{Json::arrayValue};
 
     QuotaGroups Groups() const;

@@ -78,8 +78,9 @@ RemoveOutcome MemoryAccountStore::RemoveFiles(const std::vector<std::string>& pa
     auto next = std::make_shared<AccountData>(*current_);
     RemoveOutcome outcome;
     for (const auto& path : paths) {
-        auto it = std::lower_bound(next->files.begin(), next->files.end(), path,
-                                   [](const NspFile& file, const std::string& key) { return file.path < key; });
+        auto it =
+            std::lower_bound(next->files.begin(), next->files.end(), path,
+                             [](const NspFile& file, const std::string& key) { return file.path < key; });
         if (it != next->files.end() && it->path == path) {
             outcome.removed.push_back(*it);
             next->files.erase(it);

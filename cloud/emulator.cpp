@@ -63,8 +63,8 @@ Emulator::Emulator(Options options, std::unique_ptr<MemoryAccountStore> store, F
     : options_(std::move(options)), store_(std::move(store)), faults_(faults)
 {
     const Session& session = store_->Snapshot()->session;
-    log_.SetSecrets(
-        {session.accessToken, ClientUrlEncode(session.accessToken), AsHeaderLibrarySeesIt(session.accessToken)});
+    log_.SetSecrets({session.accessToken, ClientUrlEncode(session.accessToken),
+                     AsHeaderLibrarySeesIt(session.accessToken)});
 }
 
 Emulator::~Emulator() = default;
@@ -250,8 +250,8 @@ void Emulator::Dispatch(const httplib::Request& req, httplib::Response& res)
         // Announce a body and close without sending it: the client sees the
         // connection end in the middle of the reply.
         res.status = 200;
-        res.set_content_provider(
-            64, "application/json", [](size_t, size_t, httplib::DataSink&) { return false; });
+        res.set_content_provider(64, "application/json",
+                                 [](size_t, size_t, httplib::DataSink&) { return false; });
         entry.verdict = kind == FaultKind::Cut ? "fault: connection cut" : "fault: hung, then cut";
         entry.status = 0;
         log_.Add(std::move(entry));

@@ -45,8 +45,8 @@ bool ReadInt(const Json::Value& v, const char* key, int low, int high, int& out,
 
 std::optional<FaultRule> ParseFaultRule(const Json::Value& v, std::string& error)
 {
-    static const char* known[] = {"id",    "service", "endpoint", "bodyContains", "probability", "everyNth",
-                                  "limit", "kind",    "latencyMs", "status",      "body",        "hangMs"};
+    static const char* known[] = {"id",    "service", "endpoint",  "bodyContains", "probability", "everyNth",
+                                  "limit", "kind",    "latencyMs", "status",       "body",        "hangMs"};
     if (!v.isObject()) {
         error = "a rule must be an object";
         return std::nullopt;
@@ -74,12 +74,14 @@ std::optional<FaultRule> ParseFaultRule(const Json::Value& v, std::string& error
         }
     }
     if (!v.isMember("kind") || !v["kind"].isString() || !KindNames().count(v["kind"].asString())) {
-        error = "\"kind\" must be one of latency, status, empty, emptyArray, notJson, wrongTypes, truncated, cut, hang";
+        error = "\"kind\" must be one of latency, status, empty, emptyArray, notJson, wrongTypes, truncated, "
+                "cut, hang";
         return std::nullopt;
     }
     rule.kind = KindNames().at(v["kind"].asString());
     if (v.isMember("probability")) {
-        if (!v["probability"].isNumeric() || v["probability"].asDouble() < 0 || v["probability"].asDouble() > 1) {
+        if (!v["probability"].isNumeric() || v["probability"].asDouble() < 0 ||
+            v["probability"].asDouble() > 1) {
             error = "\"probability\" must be a number from 0 to 1";
             return std::nullopt;
         }
@@ -172,7 +174,8 @@ void FaultTable::Clear()
     rules_.clear();
 }
 
-FaultDecision FaultTable::Evaluate(const std::string& service, const std::string& endpoint, const std::string& body)
+FaultDecision FaultTable::Evaluate(const std::string& service, const std::string& endpoint,
+                                   const std::string& body)
 {
     FaultDecision decision;
     std::lock_guard<std::mutex> lock(mutex_);
@@ -190,7 +193,8 @@ FaultDecision FaultTable::Evaluate(const std::string& service, const std::string
             continue;
         if (rule.everyNth > 0 && rule.matched % static_cast<uint64_t>(rule.everyNth) != 0)
             continue;
-        if (rule.probability < 1.0 && std::uniform_real_distribution<double>(0.0, 1.0)(random_) >= rule.probability)
+        if (rule.probability < 1.0 &&
+            std::uniform_real_distribution<double>(0.0, 1.0)(random_) >= rule.probability)
             continue;
         ++rule.hits;
         decision.fired.push_back(rule.id);

@@ -13,7 +13,18 @@
 
 namespace cloud {
 
-enum class FaultKind { Latency, Status, Empty, EmptyArray, NotJson, WrongTypes, Truncated, Cut, Hang };
+enum class FaultKind
+{
+    Latency,
+    Status,
+    Empty,
+    EmptyArray,
+    NotJson,
+    WrongTypes,
+    Truncated,
+    Cut,
+    Hang
+};
 
 struct FaultRule
 {
@@ -24,12 +35,12 @@ struct FaultRule
     std::string bodyContains; // raw request body substring
     // Share of the matching requests that fire.
     double probability = 1.0;
-    int everyNth = 0;  // 0: every one
-    int limit = 0;     // 0: fire without limit
+    int everyNth = 0; // 0: every one
+    int limit = 0;    // 0: fire without limit
     FaultKind kind = FaultKind::Status;
     int latencyMinMs = 0;
     int latencyMaxMs = 0;
-    int status = 0;    // Status: the code; others: 0 keeps 200
+    int status = 0; // Status: the code; others: 0 keeps 200
     std::optional<std::string> body;
     int hangMs = 0;
     uint64_t matched = 0;

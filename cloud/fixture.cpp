@@ -36,12 +36,14 @@ public:
         return place + "[" + std::to_string(index) + "]";
     }
 
-    void Object(const Json::Value& value, const std::string& place, std::initializer_list<const char*> allowed) const
+    void Object(const Json::Value& value, const std::string& place,
+                std::initializer_list<const char*> allowed) const
     {
         if (!value.isObject())
             Fail(place, "must be an object");
         for (const auto& name : value.getMemberNames()) {
-            bool known = std::any_of(allowed.begin(), allowed.end(), [&](const char* k) { return name == k; });
+            bool known =
+                std::any_of(allowed.begin(), allowed.end(), [&](const char* k) { return name == k; });
             if (!known)
                 Fail(Join(place, name), "unknown key");
         }
@@ -162,7 +164,8 @@ void ReadPim(const Reader& r, const Json::Value& root, AccountData& account)
         for (Json::ArrayIndex i = 0; i < stats.size(); ++i) {
             std::string sp = Reader::At(Reader::Join(at, "statistics"), i);
             r.Object(stats[i], sp, {"source", "sumNum"});
-            category.statistics.push_back({r.String(stats[i], sp, "source", true), r.Int32(stats[i], sp, "sumNum", true)});
+            category.statistics.push_back(
+                {r.String(stats[i], sp, "source", true), r.Int32(stats[i], sp, "sumNum", true)});
         }
         const Json::Value& records = r.Array(v, at, "records");
         for (Json::ArrayIndex i = 0; i < records.size(); ++i) {
@@ -243,7 +246,8 @@ void ReadMessages(const Reader& r, const Json::Value& root, AccountData& account
 
 void AddParents(const std::string& path, std::set<std::string>& folders)
 {
-    for (size_t slash = path.rfind('/'); slash != std::string::npos && slash > 0; slash = path.rfind('/', slash - 1))
+    for (size_t slash = path.rfind('/'); slash != std::string::npos && slash > 0;
+         slash = path.rfind('/', slash - 1))
         folders.insert(path.substr(0, slash));
 }
 
@@ -327,12 +331,13 @@ AccountData AccountFromJson(const Json::Value& root, const std::string& file)
     if (root.isMember("about")) {
         const Json::Value& a = root["about"];
         r.Object(a, "about",
-                 {"category", "dataVersion", "domain", "maxBatchNumber", "maxFileUploadSize", "maxThumbnailSize",
-                  "status"});
+                 {"category", "dataVersion", "domain", "maxBatchNumber", "maxFileUploadSize",
+                  "maxThumbnailSize", "status"});
         account.about.category = r.String(a, "about", "category", false, account.about.category);
         account.about.dataVersion = r.String(a, "about", "dataVersion", false, account.about.dataVersion);
         account.about.domain = r.String(a, "about", "domain", false);
-        account.about.maxBatchNumber = r.Int32(a, "about", "maxBatchNumber", false, account.about.maxBatchNumber);
+        account.about.maxBatchNumber =
+            r.Int32(a, "about", "maxBatchNumber", false, account.about.maxBatchNumber);
         account.about.maxFileUploadSize =
             r.String(a, "about", "maxFileUploadSize", false, account.about.maxFileUploadSize);
         account.about.maxThumbnailSize = r.Int(a, "about", "maxThumbnailSize", false);

@@ -21,7 +21,8 @@ bool FileExists(const std::string& path)
     return ::stat(path.c_str(), &info) == 0;
 }
 
-bool LoadFaultRules(const Json::Value& rules, const std::string& where, cloud::FaultTable& table, std::string& error)
+bool LoadFaultRules(const Json::Value& rules, const std::string& where, cloud::FaultTable& table,
+                    std::string& error)
 {
     if (!rules.isArray()) {
         error = where + ": must be an array of rules";
@@ -107,7 +108,8 @@ int main(int argc, char** argv)
         std::cerr << "spacemgm-cloud: " << error << "\n";
         return 1;
     }
-    if (!options.writeConfig.empty() && !cloud::WriteHostConfig(options.writeConfig, emulator, *account, error)) {
+    if (!options.writeConfig.empty() &&
+        !cloud::WriteHostConfig(options.writeConfig, emulator, *account, error)) {
         std::cerr << "spacemgm-cloud: cannot write the configuration: " << error << "\n";
         return 1;
     }

@@ -10,7 +10,8 @@ namespace cloud {
 namespace {
 
 // The client writes every value as text, numbers included.
-Json::Value FileInfo(const std::string& name, const std::string& type, int64_t size, int64_t created, int64_t modified)
+Json::Value FileInfo(const std::string& name, const std::string& type, int64_t size, int64_t created,
+                     int64_t modified)
 {
     Json::Value v;
     v["accessTime"] = std::to_string(modified);
@@ -36,7 +37,8 @@ std::vector<std::string> ChildFolders(const AccountData& account, const std::str
 {
     std::vector<std::string> out;
     const std::string prefix = folder + "/";
-    for (auto it = account.folders.lower_bound(prefix); it != account.folders.end() && StartsWith(*it, prefix); ++it)
+    for (auto it = account.folders.lower_bound(prefix);
+         it != account.folders.end() && StartsWith(*it, prefix); ++it)
         if (it->find('/', prefix.size()) == std::string::npos)
             out.push_back(*it);
     return out;
@@ -94,15 +96,17 @@ Reply ListFolders(const Call& call, const std::vector<std::string>& paths, bool 
         if (foldersOnly)
             continue;
         for (const NspFile* file : FilesBelow(call.account, path, true))
-            reply["fileList"].append(FileInfo(file->path, "File", file->size, file->createTime, file->modifyTime));
+            reply["fileList"].append(
+                FileInfo(file->path, "File", file->size, file->createTime, file->modifyTime));
     }
     return JsonReply(reply);
 }
 
-Reply GetAttributes(const Call& call, const std::vector<std::string>& fields, const std::vector<std::string>& files)
+Reply GetAttributes(const Call& call, const std::vector<std::string>& fields,
+                    const std::vector<std::string>& files)
 {
-    static const std::set<std::string> known = {"name", "type", "space", "size", "fileCount", "createTime",
-                                                "modifyTime"};
+    static const std::set<std::string> known = {"name",      "type",       "space",     "size",
+                                                "fileCount", "createTime", "modifyTime"};
     for (const auto& field : fields)
         if (!known.count(field))
             return Refused(call, 400, "getattr: unknown field \"" + field + "\"");

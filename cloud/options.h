@@ -8,9 +8,9 @@ namespace cloud {
 // [--start-delay-ms N]
 struct Options
 {
-    int port = 0;            // 0: any free port
+    int port = 0; // 0: any free port
     std::string fixture;
-    std::string state;       // with it, the account lives in this file across runs
+    std::string state; // with it, the account lives in this file across runs
     bool tls = false;
     std::string faults;      // a JSON array of fault rules
     std::string writeConfig; // host configuration file pointing at this emulator

@@ -11,7 +11,8 @@ namespace cloud {
 
 namespace {
 
-Json::Value PhotoOrDriveDetail(const std::string& collection, int64_t serviceType, bool trashed, int64_t bytes)
+Json::Value PhotoOrDriveDetail(const std::string& collection, int64_t serviceType, bool trashed,
+                               int64_t bytes)
 {
     Json::Value v;
     v["statistics"] = collection;
@@ -25,8 +26,8 @@ Json::Value PhotoOrDriveDetail(const std::string& collection, int64_t serviceTyp
     return v;
 }
 
-Json::Value PrivateDetail(int64_t serviceType, const std::string& deviceId, const std::string& kind, bool trashed,
-                          int64_t records, int64_t recordsSpace, int64_t assets)
+Json::Value PrivateDetail(int64_t serviceType, const std::string& deviceId, const std::string& kind,
+                          bool trashed, int64_t records, int64_t recordsSpace, int64_t assets)
 {
     Json::Value v;
     v["serviceType"] = Json::Int64(serviceType);
@@ -79,8 +80,8 @@ Reply DeviceQuota(const Call& call, const std::string& list)
                 continue;
             int64_t size = owner.TotalSize();
             used += size;
-            reply["quotaDetails"].append(PrivateDetail(2000, id, "", false,
-                                                       static_cast<int64_t>(owner.backups.size()), 0, size));
+            reply["quotaDetails"].append(
+                PrivateDetail(2000, id, "", false, static_cast<int64_t>(owner.backups.size()), 0, size));
             break;
         }
     }
@@ -138,7 +139,8 @@ Reply HandleQuotaUsed(const Call& call)
     const std::string& q = form.fields.at("q");
     const std::string& serviceType = form.fields.at("serviceType");
     static const std::regex devices(R"(^collection=private and deviceId in \[([^\]]*)\]$)");
-    static const std::regex kinds(R"(^collection=private and kind in \[([A-Za-z0-9_,]+)\] and \(trashed=true or trashed=false\)$)");
+    static const std::regex kinds(
+        R"(^collection=private and kind in \[([A-Za-z0-9_,]+)\] and \(trashed=true or trashed=false\)$)");
     std::smatch match;
     Reply reply;
     if (q == "collection=photo and (trashed=true or trashed=false)") {
@@ -154,7 +156,8 @@ Reply HandleQuotaUsed(const Call& call)
         if (serviceType != "10781986")
             return Refused(call, 400, "serviceType " + serviceType + " does not keep the drive");
         Json::Value v = Success(call.account.drive.recycleBytes);
-        v["quotaDetails"].append(PhotoOrDriveDetail("drive", 10781986, true, call.account.drive.recycleBytes));
+        v["quotaDetails"].append(
+            PhotoOrDriveDetail("drive", 10781986, true, call.account.drive.recycleBytes));
         reply = JsonReply(v);
         reply.endpoint = "quota.drive";
     } else if (std::regex_match(q, match, devices)) {

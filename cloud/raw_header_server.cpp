@@ -120,8 +120,14 @@ public:
         return ::send(sock_, ptr, size, MSG_NOSIGNAL);
     }
 
-    void get_remote_ip_and_port(std::string& ip, int& port) const override { AddressOf(sock_, true, ip, port); }
-    void get_local_ip_and_port(std::string& ip, int& port) const override { AddressOf(sock_, false, ip, port); }
+    void get_remote_ip_and_port(std::string& ip, int& port) const override
+    {
+        AddressOf(sock_, true, ip, port);
+    }
+    void get_local_ip_and_port(std::string& ip, int& port) const override
+    {
+        AddressOf(sock_, false, ip, port);
+    }
     socket_t socket() const override { return sock_; }
 
 private:
@@ -168,8 +174,7 @@ public:
 // httplib's keep-alive loop, over a recording stream. It also ends an idle
 // connection as soon as the server stops, where the library would wait out
 // the whole keep-alive time first.
-template <class Base>
-class RawHeaderServer : public Base, public ListenBacklog
+template <class Base> class RawHeaderServer : public Base, public ListenBacklog
 {
 public:
     using Base::Base;
@@ -209,7 +214,8 @@ protected:
 private:
     bool WaitForRequest(const RecordingStream& stream) const
     {
-        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(this->keep_alive_timeout_sec_);
+        const auto deadline =
+            std::chrono::steady_clock::now() + std::chrono::seconds(this->keep_alive_timeout_sec_);
         while (this->svr_sock_ != INVALID_SOCKET) {
             const int ready = stream.WaitReadable(kIdlePollMs);
             if (ready != 0)

@@ -9,10 +9,12 @@ namespace cloud {
 
 void RequestLog::SetSecrets(std::vector<std::string> secrets)
 {
-    secrets.erase(std::remove_if(secrets.begin(), secrets.end(), [](const std::string& s) { return s.size() < 4; }),
-                  secrets.end());
+    secrets.erase(
+        std::remove_if(secrets.begin(), secrets.end(), [](const std::string& s) { return s.size() < 4; }),
+        secrets.end());
     // Longest first, so an encoded token is not half replaced by its raw form.
-    std::sort(secrets.begin(), secrets.end(), [](const std::string& a, const std::string& b) { return a.size() > b.size(); });
+    std::sort(secrets.begin(), secrets.end(),
+              [](const std::string& a, const std::string& b) { return a.size() > b.size(); });
     std::lock_guard<std::mutex> lock(mutex_);
     secrets_ = std::move(secrets);
 }

@@ -20,7 +20,8 @@ const std::vector<Route>& Routes()
             std::string category = pim.name;
             r.push_back({"pimds", "GET", pim.statisticPath,
                          [category](const Call& call) { return HandleStatistic(call, category); }});
-            r.push_back({"cloudSyncDrive", "GET", std::string("/dataSync/v1/service/") + pim.serviceId + "/about",
+            r.push_back({"cloudSyncDrive", "GET",
+                         std::string("/dataSync/v1/service/") + pim.serviceId + "/about",
                          [category](const Call& call) { return HandleDataVersion(call, category); }});
         }
         return r;

@@ -25,7 +25,7 @@ struct Reply
     int status = 200;
     std::string body;
     std::string contentType = "application/json";
-    std::string refusal; // why the request was refused; empty when served
+    std::string refusal;  // why the request was refused; empty when served
     std::string endpoint; // set by handlers that serve several operations on one path
 };
 
@@ -35,7 +35,7 @@ struct Route
 {
     std::string service; // profile name
     std::string method;
-    std::string path;    // below the service prefix; "" is the bare service URL
+    std::string path; // below the service prefix; "" is the bare service URL
     Handler handler;
 };
 

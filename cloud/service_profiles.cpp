@@ -10,8 +10,8 @@ const char* const kAppId = "com.zephra.cloud.pc";
 
 namespace {
 
-const std::vector<std::string> kVersionHeaders = {"version", "x-zp-app-version", "x-zp-backup-version", "encversion",
-                                                  "x-zp-device-category"};
+const std::vector<std::string> kVersionHeaders = {"version", "x-zp-app-version", "x-zp-backup-version",
+                                                  "encversion", "x-zp-device-category"};
 
 std::vector<std::string> AllBut(std::initializer_list<std::string> keep)
 {
@@ -32,29 +32,63 @@ std::vector<ServiceProfile> MakeProfiles()
     std::vector<ServiceProfile> p;
     // NSP: the composite token from the send step's fallback, no version
     // header, and a JSON content type although the body is a form.
-    p.push_back({"nsp", "/nsp", true, AuthForm::Composite, "05002", {json}, AllBut({}), false, ErrorShape::Nsp});
+    p.push_back(
+        {"nsp", "/nsp", true, AuthForm::Composite, "05002", {json}, AllBut({}), false, ErrorShape::Nsp});
     p.push_back({"basic", "/basic", false, AuthForm::Unchecked, "", {}, {}, false, ErrorShape::Text});
     p.push_back({"portal", "/portal", false, AuthForm::Unchecked, "", {}, {}, false, ErrorShape::Text});
-    p.push_back({"cloudPhoto", "/cloudphoto", true, AuthForm::Bearer, "02116",
+    p.push_back({"cloudPhoto",
+                 "/cloudphoto",
+                 true,
+                 AuthForm::Bearer,
+                 "02116",
                  {json, {"version", "11.2.4.301"}, {"x-zp-os-brand", "Windows"}},
-                 {"x-zp-app-version", "x-zp-backup-version", "encversion", "x-zp-device-category", "client-type",
-                  "Cflg"},
-                 false, ErrorShape::Error});
-    p.push_back({"cbs", "/cbs", true, AuthForm::Composite, "10004",
-                 {json, {"version", "1122300"}, {"x-zp-app-version", "1122300"}, {"x-zp-backup-version", "1"},
+                 {"x-zp-app-version", "x-zp-backup-version", "encversion", "x-zp-device-category",
+                  "client-type", "Cflg"},
+                 false,
+                 ErrorShape::Error});
+    p.push_back({"cbs",
+                 "/cbs",
+                 true,
+                 AuthForm::Composite,
+                 "10004",
+                 {json,
+                  {"version", "1122300"},
+                  {"x-zp-app-version", "1122300"},
+                  {"x-zp-backup-version", "1"},
                   {"encversion", "0"}},
-                 AllBut({"version", "x-zp-app-version", "x-zp-backup-version", "encversion"}), false,
+                 AllBut({"version", "x-zp-app-version", "x-zp-backup-version", "encversion"}),
+                 false,
                  ErrorShape::Result});
-    p.push_back({"pimds", "/pimds", true, AuthForm::Composite, "10004", {json, {"version", "11.2.4.301"}},
-                 AllBut({"version", "encversion"}), true, ErrorShape::Statistic});
-    p.push_back({"familyShare", "/family", true, AuthForm::Bearer, "10004",
+    p.push_back({"pimds",
+                 "/pimds",
+                 true,
+                 AuthForm::Composite,
+                 "10004",
+                 {json, {"version", "11.2.4.301"}},
+                 AllBut({"version", "encversion"}),
+                 true,
+                 ErrorShape::Statistic});
+    p.push_back({"familyShare",
+                 "/family",
+                 true,
+                 AuthForm::Bearer,
+                 "10004",
                  {json, {"version", "1122300"}, {"x-zp-app-version", "1122300"}},
-                 AllBut({"version", "x-zp-app-version"}), false, ErrorShape::RetCode});
-    p.push_back({"cloudSyncDrive", "/syncdrive", true, AuthForm::Bearer, "10004",
+                 AllBut({"version", "x-zp-app-version"}),
+                 false,
+                 ErrorShape::RetCode});
+    p.push_back({"cloudSyncDrive",
+                 "/syncdrive",
+                 true,
+                 AuthForm::Bearer,
+                 "10004",
                  {json, {"version", "1122300"}, {"x-zp-app-version", "1122300"}},
-                 AllBut({"version", "x-zp-app-version"}), false, ErrorShape::Error});
+                 AllBut({"version", "x-zp-app-version"}),
+                 false,
+                 ErrorShape::Error});
     // The host's own requests: only the token is checked.
-    p.push_back({"accountQuota", "/account", false, AuthForm::Bearer, "", {}, {}, false, ErrorShape::RetCode});
+    p.push_back(
+        {"accountQuota", "/account", false, AuthForm::Bearer, "", {}, {}, false, ErrorShape::RetCode});
     p.push_back({"omConfig", "/om", false, AuthForm::Unchecked, "", {}, {}, false, ErrorShape::Text});
     return p;
 }

@@ -30,8 +30,8 @@ enum class ErrorShape
 
 struct ServiceProfile
 {
-    std::string name;      // the host configuration's name, e.g. "familyShare"
-    std::string prefix;    // path prefix on the emulator's port
+    std::string name;   // the host configuration's name, e.g. "familyShare"
+    std::string prefix; // path prefix on the emulator's port
     bool commonHeaders = false;
     AuthForm auth = AuthForm::Unchecked;
     std::string traceCode; // empty: no trace id expected

@@ -72,7 +72,8 @@ std::string Base64Encode(const std::string& bytes)
     size_t i = 0;
     while (i + 2 < bytes.size()) {
         unsigned n = (static_cast<unsigned char>(bytes[i]) << 16) |
-                     (static_cast<unsigned char>(bytes[i + 1]) << 8) | static_cast<unsigned char>(bytes[i + 2]);
+                     (static_cast<unsigned char>(bytes[i + 1]) << 8) |
+                     static_cast<unsigned char>(bytes[i + 2]);
         out.push_back(kBase64Alphabet[(n >> 18) & 63]);
         out.push_back(kBase64Alphabet[(n >> 12) & 63]);
         out.push_back(kBase64Alphabet[(n >> 6) & 63]);
@@ -86,7 +87,8 @@ std::string Base64Encode(const std::string& bytes)
         out.push_back(kBase64Alphabet[(n >> 12) & 63]);
         out += "==";
     } else if (rest == 2) {
-        unsigned n = (static_cast<unsigned char>(bytes[i]) << 16) | (static_cast<unsigned char>(bytes[i + 1]) << 8);
+        unsigned n =
+            (static_cast<unsigned char>(bytes[i]) << 16) | (static_cast<unsigned char>(bytes[i + 1]) << 8);
         out.push_back(kBase64Alphabet[(n >> 18) & 63]);
         out.push_back(kBase64Alphabet[(n >> 12) & 63]);
         out.push_back(kBase64Alphabet[(n >> 6) & 63]);

@@ -25,7 +25,8 @@ std::optional<std::string> Base64Decode(const std::string& text);
 
 // An application/x-www-form-urlencoded body. A repeated key or a pair without
 // '=' makes it invalid: the client never sends either.
-struct FormBody {
+struct FormBody
+{
     std::map<std::string, std::string> fields;
     std::string error;
     bool ok() const { return error.empty(); }

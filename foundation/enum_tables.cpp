@@ -611,278 +611,235 @@ const OperateSpecialEventType kOperateSpecialEventType204({Event("\xb9\xd8\xb1\x
 
 // The rows of every enumeration, in definition order.
 
-template <>
-const std::vector<const AnyBaseCmd*>& EnumRows<AnyBaseCmd>()
+template <> const std::vector<const AnyBaseCmd*>& EnumRows<AnyBaseCmd>()
 {
     static const std::vector<const AnyBaseCmd*> rows{
-        &kAnyBaseCmd4100, &kAnyBaseCmd2114, &kAnyBaseCmd2116, &kAnyBaseCmd10203, &kAnyBaseCmd10301,
+        &kAnyBaseCmd4100,  &kAnyBaseCmd2114,  &kAnyBaseCmd2116,  &kAnyBaseCmd10203, &kAnyBaseCmd10301,
         &kAnyBaseCmd10401, &kAnyBaseCmd10501, &kAnyBaseCmd10601, &kAnyBaseCmd10701, &kAnyBaseCmd10901,
         &kAnyBaseCmd11001, &kAnyBaseCmd11101, &kAnyBaseCmd11201, &kAnyBaseCmd11301, &kAnyBaseCmd11401,
-        &kAnyBaseCmd11501, &kAnyBaseCmd11601, &kAnyBaseCmd12001, &kAnyBaseCmd12004, &kAnyBaseCmd12003
-    };
+        &kAnyBaseCmd11501, &kAnyBaseCmd11601, &kAnyBaseCmd12001, &kAnyBaseCmd12004, &kAnyBaseCmd12003};
     return rows;
 }
 
-template <>
-const std::vector<const UpLogType*>& EnumRows<UpLogType>()
+template <> const std::vector<const UpLogType*>& EnumRows<UpLogType>()
 {
     static const std::vector<const UpLogType*> rows{
         &kUpLogType12005, &kUpLogType12007, &kUpLogType12009, &kUpLogTypeMinus2, &kUpLogTypeMinus1,
-        &kUpLogType0, &kUpLogType2, &kUpLogType4, &kUpLogType6, &kUpLogType8, &kUpLogType10, &kUpLogType12,
-        &kUpLogType14, &kUpLogType16, &kUpLogType18, &kUpLogType20, &kUpLogType22, &kUpLogType24,
-        &kUpLogType26, &kUpLogType28, &kUpLogType30, &kUpLogType32, &kUpLogType34, &kUpLogType36,
-        &kUpLogType38, &kUpLogType40, &kUpLogType42, &kUpLogType44, &kUpLogType46, &kUpLogType48,
-        &kUpLogType50, &kUpLogType52, &kUpLogType54, &kUpLogType56, &kUpLogType58, &kUpLogType60,
-        &kUpLogType62, &kUpLogType64, &kUpLogType66, &kUpLogType68, &kUpLogType70, &kUpLogType72,
-        &kUpLogType74, &kUpLogType76, &kUpLogType78, &kUpLogType80, &kUpLogType82, &kUpLogType84,
-        &kUpLogType3115, &kUpLogType4100, &kUpLogType4101, &kUpLogType4102, &kUpLogType4103,
-        &kUpLogType4105, &kUpLogType4106, &kUpLogType4107, &kUpLogType4108, &kUpLogType4113,
-        &kUpLogType4114, &kUpLogType4115, &kUpLogType4116, &kUpLogType4118, &kUpLogType4120,
-        &kUpLogType4122, &kUpLogType4124, &kUpLogType4126, &kUpLogType4128, &kUpLogType4130,
-        &kUpLogType4132, &kUpLogType4134, &kUpLogType4136, &kUpLogType4138, &kUpLogType4140,
-        &kUpLogType4142, &kUpLogType4144, &kUpLogType4146, &kUpLogType4148, &kUpLogType4150,
-        &kUpLogType4152, &kUpLogType4154, &kUpLogType4156, &kUpLogType4158, &kUpLogType4160,
-        &kUpLogType5001, &kUpLogType5002, &kUpLogType5003, &kUpLogType5004, &kUpLogType9104,
-        &kUpLogType9107, &kUpLogType9105, &kUpLogType9106, &kUpLogType9103, &kUpLogType10002,
-        &kUpLogType10004, &kUpLogType10005, &kUpLogType10006, &kUpLogType10007, &kUpLogType10201,
-        &kUpLogType10202, &kUpLogType10204, &kUpLogType10205, &kUpLogType10206, &kUpLogType10207,
-        &kUpLogType10208, &kUpLogType10209, &kUpLogType10210, &kUpLogType10211, &kUpLogType20120,
-        &kUpLogType30101, &kUpLogType30102, &kUpLogType30103, &kUpLogType40001, &kUpLogType30200,
-        &kUpLogType30201, &kUpLogType30202, &kUpLogType30203, &kUpLogType30204, &kUpLogType30205,
-        &kUpLogType30207, &kUpLogType50001, &kUpLogType60000, &kUpLogType60001, &kUpLogType60002,
-        &kUpLogType60003, &kUpLogType60004, &kUpLogType60005, &kUpLogType60006, &kUpLogType60007,
-        &kUpLogType60008, &kUpLogType60009, &kUpLogType60010, &kUpLogType60011, &kUpLogType60012,
-        &kUpLogType60014, &kUpLogType60015, &kUpLogType60016, &kUpLogType60017, &kUpLogType60018,
-        &kUpLogType60019, &kUpLogType60020, &kUpLogType60021, &kUpLogType60022, &kUpLogType60023,
-        &kUpLogType60024
-    };
+        &kUpLogType0,     &kUpLogType2,     &kUpLogType4,     &kUpLogType6,      &kUpLogType8,
+        &kUpLogType10,    &kUpLogType12,    &kUpLogType14,    &kUpLogType16,     &kUpLogType18,
+        &kUpLogType20,    &kUpLogType22,    &kUpLogType24,    &kUpLogType26,     &kUpLogType28,
+        &kUpLogType30,    &kUpLogType32,    &kUpLogType34,    &kUpLogType36,     &kUpLogType38,
+        &kUpLogType40,    &kUpLogType42,    &kUpLogType44,    &kUpLogType46,     &kUpLogType48,
+        &kUpLogType50,    &kUpLogType52,    &kUpLogType54,    &kUpLogType56,     &kUpLogType58,
+        &kUpLogType60,    &kUpLogType62,    &kUpLogType64,    &kUpLogType66,     &kUpLogType68,
+        &kUpLogType70,    &kUpLogType72,    &kUpLogType74,    &kUpLogType76,     &kUpLogType78,
+        &kUpLogType80,    &kUpLogType82,    &kUpLogType84,    &kUpLogType3115,   &kUpLogType4100,
+        &kUpLogType4101,  &kUpLogType4102,  &kUpLogType4103,  &kUpLogType4105,   &kUpLogType4106,
+        &kUpLogType4107,  &kUpLogType4108,  &kUpLogType4113,  &kUpLogType4114,   &kUpLogType4115,
+        &kUpLogType4116,  &kUpLogType4118,  &kUpLogType4120,  &kUpLogType4122,   &kUpLogType4124,
+        &kUpLogType4126,  &kUpLogType4128,  &kUpLogType4130,  &kUpLogType4132,   &kUpLogType4134,
+        &kUpLogType4136,  &kUpLogType4138,  &kUpLogType4140,  &kUpLogType4142,   &kUpLogType4144,
+        &kUpLogType4146,  &kUpLogType4148,  &kUpLogType4150,  &kUpLogType4152,   &kUpLogType4154,
+        &kUpLogType4156,  &kUpLogType4158,  &kUpLogType4160,  &kUpLogType5001,   &kUpLogType5002,
+        &kUpLogType5003,  &kUpLogType5004,  &kUpLogType9104,  &kUpLogType9107,   &kUpLogType9105,
+        &kUpLogType9106,  &kUpLogType9103,  &kUpLogType10002, &kUpLogType10004,  &kUpLogType10005,
+        &kUpLogType10006, &kUpLogType10007, &kUpLogType10201, &kUpLogType10202,  &kUpLogType10204,
+        &kUpLogType10205, &kUpLogType10206, &kUpLogType10207, &kUpLogType10208,  &kUpLogType10209,
+        &kUpLogType10210, &kUpLogType10211, &kUpLogType20120, &kUpLogType30101,  &kUpLogType30102,
+        &kUpLogType30103, &kUpLogType40001, &kUpLogType30200, &kUpLogType30201,  &kUpLogType30202,
+        &kUpLogType30203, &kUpLogType30204, &kUpLogType30205, &kUpLogType30207,  &kUpLogType50001,
+        &kUpLogType60000, &kUpLogType60001, &kUpLogType60002, &kUpLogType60003,  &kUpLogType60004,
+        &kUpLogType60005, &kUpLogType60006, &kUpLogType60007, &kUpLogType60008,  &kUpLogType60009,
+        &kUpLogType60010, &kUpLogType60011, &kUpLogType60012, &kUpLogType60014,  &kUpLogType60015,
+        &kUpLogType60016, &kUpLogType60017, &kUpLogType60018, &kUpLogType60019,  &kUpLogType60020,
+        &kUpLogType60021, &kUpLogType60022, &kUpLogType60023, &kUpLogType60024};
     return rows;
 }
 
-template <>
-const std::vector<const NspRequestType*>& EnumRows<NspRequestType>()
+template <> const std::vector<const NspRequestType*>& EnumRows<NspRequestType>()
 {
     static const std::vector<const NspRequestType*> rows{
-        &kNspRequestType0, &kNspRequestType1, &kNspRequestType2, &kNspRequestType3, &kNspRequestType4,
-        &kNspRequestType5, &kNspRequestType6
-    };
+        &kNspRequestType0, &kNspRequestType1, &kNspRequestType2, &kNspRequestType3,
+        &kNspRequestType4, &kNspRequestType5, &kNspRequestType6};
     return rows;
 }
 
-template <>
-const std::vector<const CbsType*>& EnumRows<CbsType>()
+template <> const std::vector<const CbsType*>& EnumRows<CbsType>()
 {
-    static const std::vector<const CbsType*> rows{
-        &kCbsType0, &kCbsType1, &kCbsType2
-    };
+    static const std::vector<const CbsType*> rows{&kCbsType0, &kCbsType1, &kCbsType2};
     return rows;
 }
 
-template <>
-const std::vector<const PimdsType*>& EnumRows<PimdsType>()
+template <> const std::vector<const PimdsType*>& EnumRows<PimdsType>()
 {
-    static const std::vector<const PimdsType*> rows{
-        &kPimdsType0, &kPimdsType1, &kPimdsType2, &kPimdsType3, &kPimdsType4, &kPimdsType5
-    };
+    static const std::vector<const PimdsType*> rows{&kPimdsType0, &kPimdsType1, &kPimdsType2,
+                                                    &kPimdsType3, &kPimdsType4, &kPimdsType5};
     return rows;
 }
 
-template <>
-const std::vector<const PimDataVerionType*>& EnumRows<PimDataVerionType>()
+template <> const std::vector<const PimDataVerionType*>& EnumRows<PimDataVerionType>()
 {
-    static const std::vector<const PimDataVerionType*> rows{
-        &kPimDataVerionType0, &kPimDataVerionType1, &kPimDataVerionType2, &kPimDataVerionType3,
-        &kPimDataVerionType4
-    };
+    static const std::vector<const PimDataVerionType*> rows{&kPimDataVerionType0, &kPimDataVerionType1,
+                                                            &kPimDataVerionType2, &kPimDataVerionType3,
+                                                            &kPimDataVerionType4};
     return rows;
 }
 
-template <>
-const std::vector<const FamilyShareType*>& EnumRows<FamilyShareType>()
+template <> const std::vector<const FamilyShareType*>& EnumRows<FamilyShareType>()
 {
-    static const std::vector<const FamilyShareType*> rows{
-        &kFamilyShareType0, &kFamilyShareType1, &kFamilyShareType2
-    };
+    static const std::vector<const FamilyShareType*> rows{&kFamilyShareType0, &kFamilyShareType1,
+                                                          &kFamilyShareType2};
     return rows;
 }
 
-template <>
-const std::vector<const CloudPhotoV2InterfaceType*>& EnumRows<CloudPhotoV2InterfaceType>()
+template <> const std::vector<const CloudPhotoV2InterfaceType*>& EnumRows<CloudPhotoV2InterfaceType>()
 {
     static const std::vector<const CloudPhotoV2InterfaceType*> rows{
-        &kCloudPhotoV2InterfaceType0, &kCloudPhotoV2InterfaceType1, &kCloudPhotoV2InterfaceType2,
-        &kCloudPhotoV2InterfaceType3, &kCloudPhotoV2InterfaceType4, &kCloudPhotoV2InterfaceType5,
-        &kCloudPhotoV2InterfaceType6, &kCloudPhotoV2InterfaceType7, &kCloudPhotoV2InterfaceType8,
-        &kCloudPhotoV2InterfaceType9, &kCloudPhotoV2InterfaceType10, &kCloudPhotoV2InterfaceType11,
+        &kCloudPhotoV2InterfaceType0,  &kCloudPhotoV2InterfaceType1,  &kCloudPhotoV2InterfaceType2,
+        &kCloudPhotoV2InterfaceType3,  &kCloudPhotoV2InterfaceType4,  &kCloudPhotoV2InterfaceType5,
+        &kCloudPhotoV2InterfaceType6,  &kCloudPhotoV2InterfaceType7,  &kCloudPhotoV2InterfaceType8,
+        &kCloudPhotoV2InterfaceType9,  &kCloudPhotoV2InterfaceType10, &kCloudPhotoV2InterfaceType11,
         &kCloudPhotoV2InterfaceType12, &kCloudPhotoV2InterfaceType13, &kCloudPhotoV2InterfaceType14,
         &kCloudPhotoV2InterfaceType15, &kCloudPhotoV2InterfaceType16, &kCloudPhotoV2InterfaceType17,
-        &kCloudPhotoV2InterfaceType18, &kCloudPhotoV2InterfaceType19
-    };
+        &kCloudPhotoV2InterfaceType18, &kCloudPhotoV2InterfaceType19};
     return rows;
 }
 
-template <>
-const std::vector<const CloudPhotoInterfaceType*>& EnumRows<CloudPhotoInterfaceType>()
+template <> const std::vector<const CloudPhotoInterfaceType*>& EnumRows<CloudPhotoInterfaceType>()
 {
     static const std::vector<const CloudPhotoInterfaceType*> rows{
-        &kCloudPhotoInterfaceType0, &kCloudPhotoInterfaceType1, &kCloudPhotoInterfaceType2,
-        &kCloudPhotoInterfaceType3, &kCloudPhotoInterfaceType4, &kCloudPhotoInterfaceType5,
-        &kCloudPhotoInterfaceType6, &kCloudPhotoInterfaceType7, &kCloudPhotoInterfaceType8,
-        &kCloudPhotoInterfaceType9, &kCloudPhotoInterfaceType10, &kCloudPhotoInterfaceType11,
+        &kCloudPhotoInterfaceType0,  &kCloudPhotoInterfaceType1,  &kCloudPhotoInterfaceType2,
+        &kCloudPhotoInterfaceType3,  &kCloudPhotoInterfaceType4,  &kCloudPhotoInterfaceType5,
+        &kCloudPhotoInterfaceType6,  &kCloudPhotoInterfaceType7,  &kCloudPhotoInterfaceType8,
+        &kCloudPhotoInterfaceType9,  &kCloudPhotoInterfaceType10, &kCloudPhotoInterfaceType11,
         &kCloudPhotoInterfaceType12, &kCloudPhotoInterfaceType13, &kCloudPhotoInterfaceType14,
         &kCloudPhotoInterfaceType15, &kCloudPhotoInterfaceType16, &kCloudPhotoInterfaceType17,
         &kCloudPhotoInterfaceType18, &kCloudPhotoInterfaceType19, &kCloudPhotoInterfaceType20,
         &kCloudPhotoInterfaceType21, &kCloudPhotoInterfaceType22, &kCloudPhotoInterfaceType23,
         &kCloudPhotoInterfaceType24, &kCloudPhotoInterfaceType25, &kCloudPhotoInterfaceType26,
-        &kCloudPhotoInterfaceType27, &kCloudPhotoInterfaceType28, &kCloudPhotoInterfaceType29
-    };
+        &kCloudPhotoInterfaceType27, &kCloudPhotoInterfaceType28, &kCloudPhotoInterfaceType29};
     return rows;
 }
 
-template <>
-const std::vector<const CloudPhotoRequestType*>& EnumRows<CloudPhotoRequestType>()
+template <> const std::vector<const CloudPhotoRequestType*>& EnumRows<CloudPhotoRequestType>()
 {
     static const std::vector<const CloudPhotoRequestType*> rows{
         &kCloudPhotoRequestType0, &kCloudPhotoRequestType1, &kCloudPhotoRequestType2,
         &kCloudPhotoRequestType3, &kCloudPhotoRequestType4, &kCloudPhotoRequestType5,
-        &kCloudPhotoRequestType6
-    };
+        &kCloudPhotoRequestType6};
     return rows;
 }
 
-template <>
-const std::vector<const DriveRequestType*>& EnumRows<DriveRequestType>()
+template <> const std::vector<const DriveRequestType*>& EnumRows<DriveRequestType>()
 {
     static const std::vector<const DriveRequestType*> rows{
-        &kDriveRequestType0, &kDriveRequestType1, &kDriveRequestType2, &kDriveRequestType3,
-        &kDriveRequestType4, &kDriveRequestType5, &kDriveRequestType6, &kDriveRequestType7,
+        &kDriveRequestType0, &kDriveRequestType1, &kDriveRequestType2,  &kDriveRequestType3,
+        &kDriveRequestType4, &kDriveRequestType5, &kDriveRequestType6,  &kDriveRequestType7,
         &kDriveRequestType8, &kDriveRequestType9, &kDriveRequestType10, &kDriveRequestType11,
-        &kDriveRequestType12
-    };
+        &kDriveRequestType12};
     return rows;
 }
 
-template <>
-const std::vector<const SyncDriveType*>& EnumRows<SyncDriveType>()
+template <> const std::vector<const SyncDriveType*>& EnumRows<SyncDriveType>()
 {
-    static const std::vector<const SyncDriveType*> rows{
-        &kSyncDriveType0
-    };
+    static const std::vector<const SyncDriveType*> rows{&kSyncDriveType0};
     return rows;
 }
 
-template <>
-const std::vector<const BusinessType*>& EnumRows<BusinessType>()
+template <> const std::vector<const BusinessType*>& EnumRows<BusinessType>()
 {
-    static const std::vector<const BusinessType*> rows{
-        &kBusinessType0
-    };
+    static const std::vector<const BusinessType*> rows{&kBusinessType0};
     return rows;
 }
 
-template <>
-const std::vector<const BasicRequestType*>& EnumRows<BasicRequestType>()
+template <> const std::vector<const BasicRequestType*>& EnumRows<BasicRequestType>()
 {
-    static const std::vector<const BasicRequestType*> rows{
-        &kBasicRequestType0
-    };
+    static const std::vector<const BasicRequestType*> rows{&kBasicRequestType0};
     return rows;
 }
 
-template <>
-const std::vector<const PortalRequestType*>& EnumRows<PortalRequestType>()
+template <> const std::vector<const PortalRequestType*>& EnumRows<PortalRequestType>()
 {
-    static const std::vector<const PortalRequestType*> rows{
-        &kPortalRequestType0
-    };
+    static const std::vector<const PortalRequestType*> rows{&kPortalRequestType0};
     return rows;
 }
 
-template <>
-const std::vector<const PortalInferfaceType*>& EnumRows<PortalInferfaceType>()
+template <> const std::vector<const PortalInferfaceType*>& EnumRows<PortalInferfaceType>()
 {
     static const std::vector<const PortalInferfaceType*> rows{
         &kPortalInferfaceType0, &kPortalInferfaceType1, &kPortalInferfaceType2, &kPortalInferfaceType3,
-        &kPortalInferfaceType4, &kPortalInferfaceType5, &kPortalInferfaceType6
-    };
+        &kPortalInferfaceType4, &kPortalInferfaceType5, &kPortalInferfaceType6};
     return rows;
 }
 
-template <>
-const std::vector<const BasicType*>& EnumRows<BasicType>()
+template <> const std::vector<const BasicType*>& EnumRows<BasicType>()
 {
-    static const std::vector<const BasicType*> rows{
-        &kBasicType10204, &kBasicType10205, &kBasicType10206, &kBasicType10207, &kBasicType10208,
-        &kBasicType10209, &kBasicType10210, &kBasicType10211, &kBasicType10212
-    };
+    static const std::vector<const BasicType*> rows{&kBasicType10204, &kBasicType10205, &kBasicType10206,
+                                                    &kBasicType10207, &kBasicType10208, &kBasicType10209,
+                                                    &kBasicType10210, &kBasicType10211, &kBasicType10212};
     return rows;
 }
 
-template <>
-const std::vector<const OperateBasicEventType*>& EnumRows<OperateBasicEventType>()
+template <> const std::vector<const OperateBasicEventType*>& EnumRows<OperateBasicEventType>()
 {
     static const std::vector<const OperateBasicEventType*> rows{
-        &kOperateBasicEventTypeMinus1, &kOperateBasicEventType0, &kOperateBasicEventType1,
-        &kOperateBasicEventType2, &kOperateBasicEventType3, &kOperateBasicEventType4,
-        &kOperateBasicEventType5, &kOperateBasicEventType6, &kOperateBasicEventType7,
-        &kOperateBasicEventType8, &kOperateBasicEventType9, &kOperateBasicEventType10,
-        &kOperateBasicEventType11, &kOperateBasicEventType12, &kOperateBasicEventType13,
-        &kOperateBasicEventType14, &kOperateBasicEventType15, &kOperateBasicEventType16,
-        &kOperateBasicEventType17, &kOperateBasicEventType18, &kOperateBasicEventType19,
-        &kOperateBasicEventType20, &kOperateBasicEventType21, &kOperateBasicEventType22,
-        &kOperateBasicEventType23, &kOperateBasicEventType24, &kOperateBasicEventType25,
-        &kOperateBasicEventType26, &kOperateBasicEventType27, &kOperateBasicEventType28,
-        &kOperateBasicEventType29, &kOperateBasicEventType30, &kOperateBasicEventType31,
-        &kOperateBasicEventType32, &kOperateBasicEventType33, &kOperateBasicEventType34,
-        &kOperateBasicEventType35, &kOperateBasicEventType36, &kOperateBasicEventType37,
-        &kOperateBasicEventType38, &kOperateBasicEventType39, &kOperateBasicEventType40,
-        &kOperateBasicEventType41, &kOperateBasicEventType42, &kOperateBasicEventType43,
-        &kOperateBasicEventType44, &kOperateBasicEventType45, &kOperateBasicEventType46,
-        &kOperateBasicEventType47, &kOperateBasicEventType48, &kOperateBasicEventType49,
-        &kOperateBasicEventType50, &kOperateBasicEventType51, &kOperateBasicEventType52,
-        &kOperateBasicEventType53, &kOperateBasicEventType54, &kOperateBasicEventType55,
-        &kOperateBasicEventType56, &kOperateBasicEventType57, &kOperateBasicEventType58,
-        &kOperateBasicEventType59, &kOperateBasicEventType60, &kOperateBasicEventType61,
-        &kOperateBasicEventType62, &kOperateBasicEventType63, &kOperateBasicEventType64,
-        &kOperateBasicEventType65, &kOperateBasicEventType66, &kOperateBasicEventType67,
-        &kOperateBasicEventType68, &kOperateBasicEventType69, &kOperateBasicEventType70,
-        &kOperateBasicEventType71, &kOperateBasicEventType72, &kOperateBasicEventType73,
-        &kOperateBasicEventType74, &kOperateBasicEventType75, &kOperateBasicEventType76,
-        &kOperateBasicEventType77, &kOperateBasicEventType78, &kOperateBasicEventType79,
-        &kOperateBasicEventType80, &kOperateBasicEventType81, &kOperateBasicEventType82,
-        &kOperateBasicEventType83, &kOperateBasicEventType84, &kOperateBasicEventType85,
-        &kOperateBasicEventType86, &kOperateBasicEventType87, &kOperateBasicEventType88,
-        &kOperateBasicEventType89, &kOperateBasicEventType90, &kOperateBasicEventType91,
-        &kOperateBasicEventType92, &kOperateBasicEventType93, &kOperateBasicEventType94,
-        &kOperateBasicEventType95, &kOperateBasicEventType96, &kOperateBasicEventType97,
-        &kOperateBasicEventType98, &kOperateBasicEventType99, &kOperateBasicEventType100,
-        &kOperateBasicEventType101, &kOperateBasicEventType102, &kOperateBasicEventType103,
-        &kOperateBasicEventType104, &kOperateBasicEventType105, &kOperateBasicEventType106,
-        &kOperateBasicEventType107, &kOperateBasicEventType108, &kOperateBasicEventType109,
-        &kOperateBasicEventType110, &kOperateBasicEventType111, &kOperateBasicEventType112,
-        &kOperateBasicEventType113, &kOperateBasicEventType114, &kOperateBasicEventType115,
-        &kOperateBasicEventType116, &kOperateBasicEventType117, &kOperateBasicEventType118,
-        &kOperateBasicEventType119, &kOperateBasicEventType120, &kOperateBasicEventType121,
-        &kOperateBasicEventType122
-    };
+        &kOperateBasicEventTypeMinus1, &kOperateBasicEventType0,   &kOperateBasicEventType1,
+        &kOperateBasicEventType2,      &kOperateBasicEventType3,   &kOperateBasicEventType4,
+        &kOperateBasicEventType5,      &kOperateBasicEventType6,   &kOperateBasicEventType7,
+        &kOperateBasicEventType8,      &kOperateBasicEventType9,   &kOperateBasicEventType10,
+        &kOperateBasicEventType11,     &kOperateBasicEventType12,  &kOperateBasicEventType13,
+        &kOperateBasicEventType14,     &kOperateBasicEventType15,  &kOperateBasicEventType16,
+        &kOperateBasicEventType17,     &kOperateBasicEventType18,  &kOperateBasicEventType19,
+        &kOperateBasicEventType20,     &kOperateBasicEventType21,  &kOperateBasicEventType22,
+        &kOperateBasicEventType23,     &kOperateBasicEventType24,  &kOperateBasicEventType25,
+        &kOperateBasicEventType26,     &kOperateBasicEventType27,  &kOperateBasicEventType28,
+        &kOperateBasicEventType29,     &kOperateBasicEventType30,  &kOperateBasicEventType31,
+        &kOperateBasicEventType32,     &kOperateBasicEventType33,  &kOperateBasicEventType34,
+        &kOperateBasicEventType35,     &kOperateBasicEventType36,  &kOperateBasicEventType37,
+        &kOperateBasicEventType38,     &kOperateBasicEventType39,  &kOperateBasicEventType40,
+        &kOperateBasicEventType41,     &kOperateBasicEventType42,  &kOperateBasicEventType43,
+        &kOperateBasicEventType44,     &kOperateBasicEventType45,  &kOperateBasicEventType46,
+        &kOperateBasicEventType47,     &kOperateBasicEventType48,  &kOperateBasicEventType49,
+        &kOperateBasicEventType50,     &kOperateBasicEventType51,  &kOperateBasicEventType52,
+        &kOperateBasicEventType53,     &kOperateBasicEventType54,  &kOperateBasicEventType55,
+        &kOperateBasicEventType56,     &kOperateBasicEventType57,  &kOperateBasicEventType58,
+        &kOperateBasicEventType59,     &kOperateBasicEventType60,  &kOperateBasicEventType61,
+        &kOperateBasicEventType62,     &kOperateBasicEventType63,  &kOperateBasicEventType64,
+        &kOperateBasicEventType65,     &kOperateBasicEventType66,  &kOperateBasicEventType67,
+        &kOperateBasicEventType68,     &kOperateBasicEventType69,  &kOperateBasicEventType70,
+        &kOperateBasicEventType71,     &kOperateBasicEventType72,  &kOperateBasicEventType73,
+        &kOperateBasicEventType74,     &kOperateBasicEventType75,  &kOperateBasicEventType76,
+        &kOperateBasicEventType77,     &kOperateBasicEventType78,  &kOperateBasicEventType79,
+        &kOperateBasicEventType80,     &kOperateBasicEventType81,  &kOperateBasicEventType82,
+        &kOperateBasicEventType83,     &kOperateBasicEventType84,  &kOperateBasicEventType85,
+        &kOperateBasicEventType86,     &kOperateBasicEventType87,  &kOperateBasicEventType88,
+        &kOperateBasicEventType89,     &kOperateBasicEventType90,  &kOperateBasicEventType91,
+        &kOperateBasicEventType92,     &kOperateBasicEventType93,  &kOperateBasicEventType94,
+        &kOperateBasicEventType95,     &kOperateBasicEventType96,  &kOperateBasicEventType97,
+        &kOperateBasicEventType98,     &kOperateBasicEventType99,  &kOperateBasicEventType100,
+        &kOperateBasicEventType101,    &kOperateBasicEventType102, &kOperateBasicEventType103,
+        &kOperateBasicEventType104,    &kOperateBasicEventType105, &kOperateBasicEventType106,
+        &kOperateBasicEventType107,    &kOperateBasicEventType108, &kOperateBasicEventType109,
+        &kOperateBasicEventType110,    &kOperateBasicEventType111, &kOperateBasicEventType112,
+        &kOperateBasicEventType113,    &kOperateBasicEventType114, &kOperateBasicEventType115,
+        &kOperateBasicEventType116,    &kOperateBasicEventType117, &kOperateBasicEventType118,
+        &kOperateBasicEventType119,    &kOperateBasicEventType120, &kOperateBasicEventType121,
+        &kOperateBasicEventType122};
     return rows;
 }
 
-template <>
-const std::vector<const OperateFileTranslateEventType*>& EnumRows<OperateFileTranslateEventType>()
+template <> const std::vector<const OperateFileTranslateEventType*>& EnumRows<OperateFileTranslateEventType>()
 {
     static const std::vector<const OperateFileTranslateEventType*> rows{
         &kOperateFileTranslateEventType123, &kOperateFileTranslateEventType124,
         &kOperateFileTranslateEventType125, &kOperateFileTranslateEventType126,
         &kOperateFileTranslateEventType127, &kOperateFileTranslateEventType128,
         &kOperateFileTranslateEventType129, &kOperateFileTranslateEventType130,
-        &kOperateFileTranslateEventType131
-    };
+        &kOperateFileTranslateEventType131};
     return rows;
 }
 
-template <>
-const std::vector<const OperateSwitchPageEventType*>& EnumRows<OperateSwitchPageEventType>()
+template <> const std::vector<const OperateSwitchPageEventType*>& EnumRows<OperateSwitchPageEventType>()
 {
     static const std::vector<const OperateSwitchPageEventType*> rows{
         &kOperateSwitchPageEventType132, &kOperateSwitchPageEventType133, &kOperateSwitchPageEventType134,
@@ -899,13 +856,11 @@ const std::vector<const OperateSwitchPageEventType*>& EnumRows<OperateSwitchPage
         &kOperateSwitchPageEventType165, &kOperateSwitchPageEventType166, &kOperateSwitchPageEventType167,
         &kOperateSwitchPageEventType168, &kOperateSwitchPageEventType169, &kOperateSwitchPageEventType170,
         &kOperateSwitchPageEventType171, &kOperateSwitchPageEventType172, &kOperateSwitchPageEventType173,
-        &kOperateSwitchPageEventType174
-    };
+        &kOperateSwitchPageEventType174};
     return rows;
 }
 
-template <>
-const std::vector<const OperateSwitchModuleEventType*>& EnumRows<OperateSwitchModuleEventType>()
+template <> const std::vector<const OperateSwitchModuleEventType*>& EnumRows<OperateSwitchModuleEventType>()
 {
     static const std::vector<const OperateSwitchModuleEventType*> rows{
         &kOperateSwitchModuleEventType175, &kOperateSwitchModuleEventType176,
@@ -915,20 +870,17 @@ const std::vector<const OperateSwitchModuleEventType*>& EnumRows<OperateSwitchMo
         &kOperateSwitchModuleEventType183, &kOperateSwitchModuleEventType184,
         &kOperateSwitchModuleEventType185, &kOperateSwitchModuleEventType186,
         &kOperateSwitchModuleEventType187, &kOperateSwitchModuleEventType188,
-        &kOperateSwitchModuleEventType189, &kOperateSwitchModuleEventType190
-    };
+        &kOperateSwitchModuleEventType189, &kOperateSwitchModuleEventType190};
     return rows;
 }
 
-template <>
-const std::vector<const OperateSpecialEventType*>& EnumRows<OperateSpecialEventType>()
+template <> const std::vector<const OperateSpecialEventType*>& EnumRows<OperateSpecialEventType>()
 {
     static const std::vector<const OperateSpecialEventType*> rows{
         &kOperateSpecialEventType191, &kOperateSpecialEventType192, &kOperateSpecialEventType193,
         &kOperateSpecialEventType194, &kOperateSpecialEventType195, &kOperateSpecialEventType196,
         &kOperateSpecialEventType197, &kOperateSpecialEventType198, &kOperateSpecialEventType199,
         &kOperateSpecialEventType200, &kOperateSpecialEventType201, &kOperateSpecialEventType202,
-        &kOperateSpecialEventType203, &kOperateSpecialEventType204
-    };
+        &kOperateSpecialEventType203, &kOperateSpecialEventType204};
     return rows;
 }

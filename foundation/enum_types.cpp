@@ -11,7 +11,8 @@ std::atomic<int32_t> lastEnumId{-1};
 
 namespace {
 
-AdvancedIntEnumType::AttributeMap CollectAttributes(std::initializer_list<AdvancedIntEnumType::AttributeEntry> list)
+AdvancedIntEnumType::AttributeMap
+CollectAttributes(std::initializer_list<AdvancedIntEnumType::AttributeEntry> list)
 {
     return AdvancedIntEnumType::AttributeMap(list.begin(), list.end());
 }
@@ -55,7 +56,8 @@ AdvancedIntEnumType::AdvancedIntEnumType(int32_t explicitId) : id(explicitId)
     lastEnumId = explicitId;
 }
 
-AdvancedIntEnumType::AdvancedIntEnumType(int32_t explicitId, std::initializer_list<AttributeEntry> attributeList)
+AdvancedIntEnumType::AdvancedIntEnumType(int32_t explicitId,
+                                         std::initializer_list<AttributeEntry> attributeList)
     : id(explicitId), attributes(CollectAttributes(attributeList))
 {
     lastEnumId = explicitId;

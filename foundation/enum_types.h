@@ -243,9 +243,10 @@ class OperateEventAttribute : public AnyAttribute
 {
 public:
     OperateEventAttribute(std::string gbkDescription, const AnyBaseCmd* command, std::string pageName,
-                          const AdvancedIntEnumType* linked, std::string subPageName, std::string targetPageName)
-        : description(std::move(gbkDescription)), cmd(command), page(std::move(pageName)), linkedEvent(linked),
-          subPage(std::move(subPageName)), targetPage(std::move(targetPageName))
+                          const AdvancedIntEnumType* linked, std::string subPageName,
+                          std::string targetPageName)
+        : description(std::move(gbkDescription)), cmd(command), page(std::move(pageName)),
+          linkedEvent(linked), subPage(std::move(subPageName)), targetPage(std::move(targetPageName))
     {
     }
     std::string description;
@@ -286,12 +287,10 @@ std::string GetRequestTraceId(const AdvancedIntEnumType& requestType);
 
 // Every value of enumeration E in definition order. Specialised for each
 // enumeration next to the table definitions.
-template <class E>
-const std::vector<const E*>& EnumRows();
+template <class E> const std::vector<const E*>& EnumRows();
 
 // The row of E with this id, or null. Ids are unique within every table.
-template <class E>
-const E* FindEnumRow(int32_t id)
+template <class E> const E* FindEnumRow(int32_t id)
 {
     for (const E* row : EnumRows<E>()) {
         if (row->id == id) {
@@ -302,7 +301,8 @@ const E* FindEnumRow(int32_t id)
 }
 
 template <> const std::vector<const OperateBasicEventType*>& EnumRows<OperateBasicEventType>();
-template <> const std::vector<const OperateFileTranslateEventType*>& EnumRows<OperateFileTranslateEventType>();
+template <>
+const std::vector<const OperateFileTranslateEventType*>& EnumRows<OperateFileTranslateEventType>();
 template <> const std::vector<const OperateSwitchPageEventType*>& EnumRows<OperateSwitchPageEventType>();
 template <> const std::vector<const OperateSwitchModuleEventType*>& EnumRows<OperateSwitchModuleEventType>();
 template <> const std::vector<const OperateSpecialEventType*>& EnumRows<OperateSpecialEventType>();

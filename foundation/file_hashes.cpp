@@ -32,8 +32,7 @@ FilePtr OpenForReading(const std::string& canonicalPath)
 constexpr size_t kStreamBlock = 102400;
 
 // Feeds the whole file to `update` in blocks; false on a read error.
-template <typename Update>
-bool ReadBlocks(std::FILE* file, Update update)
+template <typename Update> bool ReadBlocks(std::FILE* file, Update update)
 {
     std::vector<unsigned char> block(kStreamBlock);
     for (;;) {
@@ -85,8 +84,8 @@ std::string Sha256OfFile(const std::wstring& path)
     }
     SHA256_CTX context;
     SHA256_Init(&context);
-    const bool ok = ReadBlocks(file.get(),
-                               [&](const unsigned char* data, size_t length) { SHA256_Update(&context, data, length); });
+    const bool ok = ReadBlocks(
+        file.get(), [&](const unsigned char* data, size_t length) { SHA256_Update(&context, data, length); });
     unsigned char digest[SHA256_DIGEST_LENGTH];
     SHA256_Final(digest, &context);
     if (!ok) {

@@ -3,36 +3,36 @@
 #include "foundation/file_type_tables.h"
 
 const std::vector<std::wstring> VideoExtensions = {
-    L".3gpp", L".3g2", L".3gp",  L".asf",   L".avi",  L".flv",  L".k3g", L".m4v",  L".mkv", L".mov",
-    L".mp4",  L".mpeg", L".rmvb", L".rm",   L".rv",   L".ts",   L".webm", L".wmv", L".3gpp2", L".mpg4",
-    L".mpe",  L".m4u", L".f4v",  L".asx",   L".m2ts", L".swf",  L".divx", L".mpg",
+    L".3gpp", L".3g2",  L".3gp",  L".asf", L".avi",  L".flv", L".k3g",  L".m4v", L".mkv",   L".mov",
+    L".mp4",  L".mpeg", L".rmvb", L".rm",  L".rv",   L".ts",  L".webm", L".wmv", L".3gpp2", L".mpg4",
+    L".mpe",  L".m4u",  L".f4v",  L".asx", L".m2ts", L".swf", L".divx", L".mpg",
 };
 
 const std::vector<std::wstring> PictureExtensions = {
-    L".tif", L".jpg", L".jpeg", L".wbmp", L".png", L".heic", L".bmp", L".webp", L".gif", L".mpo", L".raw",
-    L".jpe", L".ico", L".psd",  L".cr2",  L".heif", L".dng", L".sami", L".smi", L".arw", L".nef",
+    L".tif", L".jpg", L".jpeg", L".wbmp", L".png",  L".heic", L".bmp",  L".webp", L".gif", L".mpo", L".raw",
+    L".jpe", L".ico", L".psd",  L".cr2",  L".heif", L".dng",  L".sami", L".smi",  L".arw", L".nef",
 };
 
 const std::vector<std::wstring> DocumentExtensions = {
-    L".htm",  L".html",  L".pdf",   L".xls",  L".xlsx", L".ppt",   L".pptx",  L".doc",  L".docx", L".txt",
-    L".xmind", L".xml",  L".log",   L".chm",  L".csv",  L".vcf",   L".srt",   L".rtf",  L".xlsm", L".xltm",
-    L".xhtml", L".wps",  L".cpp",   L".h",    L".java", L".dhtml", L".shtml", L".text", L".ini",  L".xlt",
-    L".xltx", L".c",     L".conf",  L".bin",  L".php",  L".js",    L".docm",  L".dotm", L".wpt",  L".pptm",
-    L".pps",  L".ppsm",  L".potm",  L".dps",  L".dpt",  L".class", L".prop",  L".rc",   L".sh",   L".epub",
-    L".ebk3", L".umd",   L".pdb",   L".jad",  L".vcs",  L".ics",   L".jsp",   L".asp",  L".dotx", L".dot",
-    L".pot",  L".potx",  L".ppsx",  L".dcf",  L".et",   L".msg",   L".sub",   L".ass",  L".ssa",
+    L".htm",   L".html", L".pdf",  L".xls", L".xlsx", L".ppt",   L".pptx",  L".doc",  L".docx", L".txt",
+    L".xmind", L".xml",  L".log",  L".chm", L".csv",  L".vcf",   L".srt",   L".rtf",  L".xlsm", L".xltm",
+    L".xhtml", L".wps",  L".cpp",  L".h",   L".java", L".dhtml", L".shtml", L".text", L".ini",  L".xlt",
+    L".xltx",  L".c",    L".conf", L".bin", L".php",  L".js",    L".docm",  L".dotm", L".wpt",  L".pptm",
+    L".pps",   L".ppsm", L".potm", L".dps", L".dpt",  L".class", L".prop",  L".rc",   L".sh",   L".epub",
+    L".ebk3",  L".umd",  L".pdb",  L".jad", L".vcs",  L".ics",   L".jsp",   L".asp",  L".dotx", L".dot",
+    L".pot",   L".potx", L".ppsx", L".dcf", L".et",   L".msg",   L".sub",   L".ass",  L".ssa",
 };
 
 const std::vector<std::wstring> ArchiveExtensions = {
-    L".zip", L".7z", L".rar", L".tar.gz", L".bz", L".tar.bz2", L".jar",
-    L".exe", L".apk", L".z",  L".gtar",   L".tgz", L".cab",
+    L".zip", L".7z",  L".rar", L".tar.gz", L".bz",  L".tar.bz2", L".jar",
+    L".exe", L".apk", L".z",   L".gtar",   L".tgz", L".cab",
 };
 
 const std::vector<std::wstring> AudioExtensions = {
-    L".amr", L".flac", L".imy", L".m4a", L".mid", L".midi", L".mmf", L".mp3", L".mpga", L".mxmf",
-    L".ogg", L".qcp",  L".rtttl", L".rtx", L".wav", L".ape", L".wma", L".aac", L".xmf",  L".ra",
-    L".ram", L".awb",  L".mp2", L".au",  L".oga", L".wpl",  L".mpc", L".ac3", L".mka",  L".aif",
-    L".aiff", L".aifc", L".smf", L".ota", L".pls", L".m3u",  L".m4b", L".m4p",
+    L".amr",  L".flac", L".imy",   L".m4a", L".mid", L".midi", L".mmf", L".mp3", L".mpga", L".mxmf",
+    L".ogg",  L".qcp",  L".rtttl", L".rtx", L".wav", L".ape",  L".wma", L".aac", L".xmf",  L".ra",
+    L".ram",  L".awb",  L".mp2",   L".au",  L".oga", L".wpl",  L".mpc", L".ac3", L".mka",  L".aif",
+    L".aiff", L".aifc", L".smf",   L".ota", L".pls", L".m3u",  L".m4b", L".m4p",
 };
 
 const std::vector<std::wstring> FileCategoryKeys = {
@@ -40,14 +40,14 @@ const std::vector<std::wstring> FileCategoryKeys = {
 };
 
 const std::vector<std::wstring> FileIconPaths = {
-    L"FileIcon/folder.svg",  L"FileIcon/doc.svg",     L"FileIcon/7z.svg",       L"FileIcon/apk.svg",
-    L"FileIcon/chm.svg",     L"FileIcon/download.svg", L"FileIcon/html.svg",    L"FileIcon/log.svg",
-    L"FileIcon/music.svg",   L"FileIcon/amr.svg",     L"FileIcon/ape.svg",      L"FileIcon/flac.svg",
-    L"FileIcon/m4a.svg",     L"FileIcon/mp3.svg",     L"FileIcon/wav.svg",      L"FileIcon/wma.svg",
-    L"FileIcon/pdf.svg",     L"FileIcon/picture.svg", L"FileIcon/ppt.svg",      L"FileIcon/rar.svg",
-    L"FileIcon/txt.svg",     L"FileIcon/unknown.svg", L"FileIcon/vcard.svg",    L"FileIcon/video.svg",
-    L"FileIcon/word.svg",    L"FileIcon/xlsl.svg",    L"FileIcon/xml.svg",      L"FileIcon/zip_normal.svg",
-    L"FileIcon/zip.svg",     L"FileIcon/mutliFileLogo.svg",
+    L"FileIcon/folder.svg", L"FileIcon/doc.svg",           L"FileIcon/7z.svg",    L"FileIcon/apk.svg",
+    L"FileIcon/chm.svg",    L"FileIcon/download.svg",      L"FileIcon/html.svg",  L"FileIcon/log.svg",
+    L"FileIcon/music.svg",  L"FileIcon/amr.svg",           L"FileIcon/ape.svg",   L"FileIcon/flac.svg",
+    L"FileIcon/m4a.svg",    L"FileIcon/mp3.svg",           L"FileIcon/wav.svg",   L"FileIcon/wma.svg",
+    L"FileIcon/pdf.svg",    L"FileIcon/picture.svg",       L"FileIcon/ppt.svg",   L"FileIcon/rar.svg",
+    L"FileIcon/txt.svg",    L"FileIcon/unknown.svg",       L"FileIcon/vcard.svg", L"FileIcon/video.svg",
+    L"FileIcon/word.svg",   L"FileIcon/xlsl.svg",          L"FileIcon/xml.svg",   L"FileIcon/zip_normal.svg",
+    L"FileIcon/zip.svg",    L"FileIcon/mutliFileLogo.svg",
 };
 
 const std::map<std::string, std::string> MimeTypes = {

@@ -40,7 +40,8 @@ const wchar_t* NameFromTable(const OsVersionRecord& v)
             if (workstation && v.x64Processor) {
                 return L"Microsoft Windows XP Professional x64 Edition";
             }
-            return v.serverR2Metric == 0 ? L"Microsoft Windows Server 2003" : L"Microsoft Windows Server 2003 R2";
+            return v.serverR2Metric == 0 ? L"Microsoft Windows Server 2003"
+                                         : L"Microsoft Windows Server 2003 R2";
         }
         return nullptr;
     case 6:
@@ -74,8 +75,9 @@ std::wstring OsNameFromVersion(const OsVersionRecord& version)
     if (name == nullptr) {
         return kUnknownPlatform;
     }
-    return std::wstring(name) + L" " + std::to_wstring(version.major) + L"." + std::to_wstring(version.minor) +
-           L"." + std::to_wstring(version.build & 0xFFFFu) + L"." + std::to_wstring(version.servicePackMajor);
+    return std::wstring(name) + L" " + std::to_wstring(version.major) + L"." +
+           std::to_wstring(version.minor) + L"." + std::to_wstring(version.build & 0xFFFFu) + L"." +
+           std::to_wstring(version.servicePackMajor);
 }
 
 std::optional<OsVersionRecord> ReadOsVersion()

@@ -33,7 +33,8 @@ void AnswerDeviceList(std::vector<BackupDevListSt>& devices)
 
 } // namespace
 
-class BackupHostWindow::Impl {
+class BackupHostWindow::Impl
+{
 public:
     explicit Impl(BackupDeleter deleter) : deleter_(std::move(deleter))
     {
@@ -57,10 +58,9 @@ public:
 private:
     void Run(std::promise<std::pair<HWND, DWORD>>& ready)
     {
-        const HWND window = CreateWindowHandle(
-            [this](HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
-                return Procedure(hWnd, message, wParam, lParam);
-            });
+        const HWND window = CreateWindowHandle([this](HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) {
+            return Procedure(hWnd, message, wParam, lParam);
+        });
         ready.set_value({window, GetCurrentThreadId()});
         MSG message{};
         while (GetMessageW(&message, nullptr, 0, 0) > 0) {
@@ -99,7 +99,9 @@ private:
     std::thread thread_;
 };
 
-BackupHostWindow::BackupHostWindow(BackupDeleter deleter) : impl_(std::make_unique<Impl>(std::move(deleter))) {}
+BackupHostWindow::BackupHostWindow(BackupDeleter deleter) : impl_(std::make_unique<Impl>(std::move(deleter)))
+{
+}
 
 BackupHostWindow::~BackupHostWindow() = default;
 

@@ -26,7 +26,8 @@ constexpr UINT kBackupDeleteMessage = WM_USER + 0x503;
 // or the reason it failed.
 using BackupDeleter = std::function<std::string(const std::string& deviceId)>;
 
-class BackupHostWindow {
+class BackupHostWindow
+{
 public:
     // Starts the window's thread and returns once the window exists. Without
     // a deleter a deletion is answered "no backup service".

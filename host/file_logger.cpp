@@ -139,9 +139,10 @@ namespace Logger {
 void Output(int module, int severity, int line, const std::string& function, const std::string& message,
             bool flush)
 {
-    detail::DeliverToSinks(Record{module, severity, line, function, message, flush, std::this_thread::get_id()});
-    const std::string text = host::Timestamp() + " [" + std::to_string(host::KernelThreadId()) + "] " + function +
-                             "(" + std::to_string(line) + ") " + message + "\n";
+    detail::DeliverToSinks(
+        Record{module, severity, line, function, message, flush, std::this_thread::get_id()});
+    const std::string text = host::Timestamp() + " [" + std::to_string(host::KernelThreadId()) + "] " +
+                             function + "(" + std::to_string(line) + ") " + message + "\n";
     host::Files().Write(host::LogFolder(), host::LogChannelName(module, severity) + ".log", text, flush);
 }
 
@@ -167,7 +168,8 @@ void OutputOperationLog(int event, int operationType, int actionType,
     record["values"] = fields;
     Json::StreamWriterBuilder writer;
     writer["indentation"] = "";
-    host::Files().Write(host::LogFolder(), "operations.jsonl", Json::writeString(writer, record) + "\n", true);
+    host::Files().Write(host::LogFolder(), "operations.jsonl", Json::writeString(writer, record) + "\n",
+                        true);
 }
 
 } // namespace Logger

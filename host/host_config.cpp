@@ -3,8 +3,8 @@
 #include "host/host_config.h"
 
 #include <atomic>
-#include <cstring>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -262,7 +262,8 @@ HostConfig LoadHostConfigFile(const std::string& path)
         network.String("mode", config.networkMode);
         const std::string& mode = config.networkMode;
         if (mode != "system" && mode != "online" && mode != "offline" && mode != "file") {
-            network.Fail(network.KeyOf("mode"), "must be one of \"system\", \"online\", \"offline\", \"file\"");
+            network.Fail(network.KeyOf("mode"),
+                         "must be one of \"system\", \"online\", \"offline\", \"file\"");
         }
         network.String("file", config.networkFile);
     });
@@ -271,7 +272,8 @@ HostConfig LoadHostConfigFile(const std::string& path)
     top.String("caFile", config.caFile);
     top.Int("timeoutSeconds", config.timeoutSeconds);
 
-    const fs::path folder = fs::path(path).parent_path().empty() ? fs::path(".") : fs::path(path).parent_path();
+    const fs::path folder =
+        fs::path(path).parent_path().empty() ? fs::path(".") : fs::path(path).parent_path();
     const fs::path absoluteFolder = fs::absolute(folder, ec).lexically_normal();
     config.dataDir = dataDir ? ResolveAgainst(absoluteFolder, *dataDir) : DefaultDataDir();
     config.logDir = logDir ? ResolveAgainst(absoluteFolder, *logDir) : config.dataDir + "/log";

@@ -11,7 +11,8 @@ namespace host {
 
 struct ServiceUrls
 {
-    std::string nsp, basic, portal, cloudPhoto, cbs, pimds, familyShare, cloudSyncDrive, accountQuota, omConfig;
+    std::string nsp, basic, portal, cloudPhoto, cbs, pimds, familyShare, cloudSyncDrive, accountQuota,
+        omConfig;
 };
 
 struct Session

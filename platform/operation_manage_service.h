@@ -1,7 +1,8 @@
 // The host's operations service: server-side configuration for the client.
 #pragma once
 
-class COperationManageService {
+class COperationManageService
+{
 public:
     static COperationManageService* GetInstance();
 

@@ -9,7 +9,8 @@ namespace Drive {
 
 // All values are bytes. `reserved` is filled by the service and not read by
 // the module.
-struct UserSpaceInfo {
+struct UserSpaceInfo
+{
     uint64_t used = 0;
     uint64_t reserved = 0;
     uint64_t total = 0;
@@ -20,7 +21,8 @@ struct UserSpaceInfo {
     uint64_t family = 0;
 };
 
-class UserSpace {
+class UserSpace
+{
 public:
     // Fills `info` with the account's quota and reports whether the query
     // succeeded. `force` skips any cache the host might keep; the stand-alone
@@ -28,5 +30,5 @@ public:
     static bool QueryUserSpace(UserSpaceInfo& info, bool force);
 };
 
-}  // namespace Drive
-}  // namespace NS
+} // namespace Drive
+} // namespace NS

@@ -37,17 +37,20 @@ using HWND = HWND__*;
 #define TRUE 1
 #endif
 
-struct POINT {
+struct POINT
+{
     LONG x;
     LONG y;
 };
 
-struct SIZE {
+struct SIZE
+{
     LONG cx;
     LONG cy;
 };
 
-struct RECT {
+struct RECT
+{
     LONG left;
     LONG top;
     LONG right;
@@ -118,24 +121,38 @@ constexpr DWORD WAIT_FAILED = 0xFFFFFFFFu;
 // MAKELPARAM goes through a 32-bit value, so a high word with its top bit set
 // gives a positive LPARAM, as on 64-bit Windows; GET_X_LPARAM/GET_Y_LPARAM
 // sign-extend so that coordinates left of or above a window stay negative.
-constexpr WORD LOWORD(std::uintptr_t value) { return static_cast<WORD>(value & 0xFFFFu); }
-constexpr WORD HIWORD(std::uintptr_t value) { return static_cast<WORD>((value >> 16) & 0xFFFFu); }
-constexpr DWORD MAKELONG(std::uintptr_t low, std::uintptr_t high) {
+constexpr WORD LOWORD(std::uintptr_t value)
+{
+    return static_cast<WORD>(value & 0xFFFFu);
+}
+constexpr WORD HIWORD(std::uintptr_t value)
+{
+    return static_cast<WORD>((value >> 16) & 0xFFFFu);
+}
+constexpr DWORD MAKELONG(std::uintptr_t low, std::uintptr_t high)
+{
     return static_cast<DWORD>((low & 0xFFFFu) | ((high & 0xFFFFu) << 16));
 }
-constexpr LPARAM MAKELPARAM(std::uintptr_t low, std::uintptr_t high) {
+constexpr LPARAM MAKELPARAM(std::uintptr_t low, std::uintptr_t high)
+{
     return static_cast<LPARAM>(MAKELONG(low, high));
 }
-constexpr WPARAM MAKEWPARAM(std::uintptr_t low, std::uintptr_t high) {
+constexpr WPARAM MAKEWPARAM(std::uintptr_t low, std::uintptr_t high)
+{
     return static_cast<WPARAM>(MAKELONG(low, high));
 }
-constexpr int GET_X_LPARAM(LPARAM lParam) {
+constexpr int GET_X_LPARAM(LPARAM lParam)
+{
     return static_cast<std::int16_t>(LOWORD(static_cast<std::uintptr_t>(lParam)));
 }
-constexpr int GET_Y_LPARAM(LPARAM lParam) {
+constexpr int GET_Y_LPARAM(LPARAM lParam)
+{
     return static_cast<std::int16_t>(HIWORD(static_cast<std::uintptr_t>(lParam)));
 }
-constexpr short GET_WHEEL_DELTA_WPARAM(WPARAM wParam) { return static_cast<short>(HIWORD(wParam)); }
+constexpr short GET_WHEEL_DELTA_WPARAM(WPARAM wParam)
+{
+    return static_cast<short>(HIWORD(wParam));
+}
 
 // Messages. Posting is thread-safe and ordered per receiving thread. A post
 // to a destroyed or unknown window returns FALSE, and the caller keeps any
@@ -162,8 +179,7 @@ UINT_PTR SetTimer(HWND hWnd, UINT_PTR idEvent, UINT elapseMs, void* timerProc);
 BOOL KillTimer(HWND hWnd, UINT_PTR idEvent);
 
 // Events. The security attributes and the name are accepted and ignored.
-HANDLE CreateEventW(void* securityAttributes, BOOL manualReset, BOOL initialState,
-                    const wchar_t* name);
+HANDLE CreateEventW(void* securityAttributes, BOOL manualReset, BOOL initialState, const wchar_t* name);
 BOOL SetEvent(HANDLE event);
 BOOL ResetEvent(HANDLE event);
 

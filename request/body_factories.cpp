@@ -1,7 +1,7 @@
 #include "request/body_factories.h"
 
-std::shared_ptr<NspFolders> MakeNspFolders(const std::string& accessToken, const std::vector<std::string>& paths,
-                                           const std::string& cursor)
+std::shared_ptr<NspFolders> MakeNspFolders(const std::string& accessToken,
+                                           const std::vector<std::string>& paths, const std::string& cursor)
 {
     auto body = std::make_shared<NspFolders>(accessToken, paths, cursor);
     body->nsp_svc = NspFolders::kServiceName;
@@ -16,14 +16,16 @@ std::shared_ptr<NspFiles> MakeNspFiles(const std::string& accessToken, const std
     return body;
 }
 
-std::shared_ptr<NspDelFiles> MakeNspDelFiles(const std::string& accessToken, const std::vector<std::string>& files)
+std::shared_ptr<NspDelFiles> MakeNspDelFiles(const std::string& accessToken,
+                                             const std::vector<std::string>& files)
 {
     auto body = std::make_shared<NspDelFiles>(accessToken, files);
     body->nsp_svc = NspDelFiles::kServiceName;
     return body;
 }
 
-std::shared_ptr<NspGetAttr> MakeNspGetAttr(const std::string& accessToken, const std::vector<std::string>& files,
+std::shared_ptr<NspGetAttr> MakeNspGetAttr(const std::string& accessToken,
+                                           const std::vector<std::string>& files,
                                            const std::vector<std::string>& fields)
 {
     auto body = std::make_shared<NspGetAttr>(accessToken, files, fields);

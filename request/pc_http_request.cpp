@@ -197,7 +197,8 @@ void PCHttpRequest::SetTraceAndPath(const AdvancedIntEnumType& type, bool append
     }
 }
 
-std::string PCHttpRequest::SendRaw(int32_t& status, std::string& errorText, std::shared_ptr<PostableData> body)
+std::string PCHttpRequest::SendRaw(int32_t& status, std::string& errorText,
+                                   std::shared_ptr<PostableData> body)
 {
     errorText.clear();
     status = -1;

@@ -59,11 +59,10 @@ public:
     // T. Null for an empty reply, the reply "[]" or a failed send.
     template <class T>
     std::shared_ptr<T> SendTyped(const AdvancedIntEnumType& type, AnyHttpRequestMethod sendMethod,
-                                 std::shared_ptr<PostableData> body, std::shared_ptr<RequestExchange> exchange,
-                                 bool appendTraceId);
+                                 std::shared_ptr<PostableData> body,
+                                 std::shared_ptr<RequestExchange> exchange, bool appendTraceId);
 
-    template <class T>
-    std::shared_ptr<T> ExecuteRequest(int32_t& status);
+    template <class T> std::shared_ptr<T> ExecuteRequest(int32_t& status);
 
     // The only step that touches the transport. Returns the reply body, empty
     // when the send failed; `status` stays -1 then. `errorText` is cleared and
@@ -146,8 +145,7 @@ std::shared_ptr<T> PCHttpRequest::SendTyped(const AdvancedIntEnumType& type, Any
     return result;
 }
 
-template <class T>
-std::shared_ptr<T> PCHttpRequest::ExecuteRequest(int32_t& status)
+template <class T> std::shared_ptr<T> PCHttpRequest::ExecuteRequest(int32_t& status)
 {
     std::shared_ptr<T> result;
     status = -1;

@@ -37,7 +37,8 @@ std::shared_ptr<T> SendNsp(const NspRequestType& row, std::shared_ptr<PostableDa
 
 template <class T>
 std::shared_ptr<T> SendCloudPhoto(const CloudPhotoInterfaceType& row, std::shared_ptr<PostableData> postData,
-                                  std::shared_ptr<RequestExchange> exchange, const AnyHttpHeaderMap& customHeaders)
+                                  std::shared_ptr<RequestExchange> exchange,
+                                  const AnyHttpHeaderMap& customHeaders)
 {
     CloudPhotoPCRequest request;
     if (&customHeaders != &request.customHeaders) {
@@ -53,8 +54,8 @@ std::shared_ptr<T> SendPlain(const AdvancedIntEnumType& row, std::shared_ptr<Pos
                              std::shared_ptr<RequestExchange> exchange, bool appendTraceId)
 {
     Request request;
-    return request.template SendTyped<T>(row, RunRequestMethod<T>::value, std::move(postData), std::move(exchange),
-                                         appendTraceId);
+    return request.template SendTyped<T>(row, RunRequestMethod<T>::value, std::move(postData),
+                                         std::move(exchange), appendTraceId);
 }
 
 std::mutex maxFileUploadSizeMutex;
@@ -64,7 +65,8 @@ std::string maxFileUploadSize;
 
 template <class T>
 std::shared_ptr<T> RunRequest(const AdvancedIntEnumType* requestType, std::shared_ptr<PostableData> postData,
-                              std::shared_ptr<RequestExchange> exchange, const AnyHttpHeaderMap& customHeaders)
+                              std::shared_ptr<RequestExchange> exchange,
+                              const AnyHttpHeaderMap& customHeaders)
 {
     std::shared_ptr<T> result;
     try {
@@ -73,8 +75,8 @@ std::shared_ptr<T> RunRequest(const AdvancedIntEnumType* requestType, std::share
         } else if (auto basic = dynamic_cast<const BasicType*>(requestType)) {
             BasicPCRequest request;
             request.basicType = *basic;
-            result = request.SendTyped<T>(*basic, RunRequestMethod<T>::value, std::move(postData), std::move(exchange),
-                                          false);
+            result = request.SendTyped<T>(*basic, RunRequestMethod<T>::value, std::move(postData),
+                                          std::move(exchange), false);
         } else if (auto portal = dynamic_cast<const PortalInferfaceType*>(requestType)) {
             result = SendPlain<PortalPCRequest, T>(*portal, std::move(postData), std::move(exchange), true);
         } else if (auto photo = dynamic_cast<const CloudPhotoInterfaceType*>(requestType)) {
@@ -84,10 +86,11 @@ std::shared_ptr<T> RunRequest(const AdvancedIntEnumType* requestType, std::share
         } else if (auto pimds = dynamic_cast<const PimdsType*>(requestType)) {
             result = SendPlain<PIMDSPCRequest, T>(*pimds, std::move(postData), std::move(exchange), false);
         } else if (auto family = dynamic_cast<const FamilyShareType*>(requestType)) {
-            result = SendPlain<FamilySharePCRequest, T>(*family, std::move(postData), std::move(exchange), false);
-        } else if (auto version = dynamic_cast<const PimDataVerionType*>(requestType)) {
             result =
-                SendPlain<PimDataVersionPCRequest, T>(*version, std::move(postData), std::move(exchange), false);
+                SendPlain<FamilySharePCRequest, T>(*family, std::move(postData), std::move(exchange), false);
+        } else if (auto version = dynamic_cast<const PimDataVerionType*>(requestType)) {
+            result = SendPlain<PimDataVersionPCRequest, T>(*version, std::move(postData), std::move(exchange),
+                                                           false);
         } else {
             // An unknown row is not an error: the caller sees a default record.
             result = std::make_shared<T>();
@@ -98,8 +101,8 @@ std::shared_ptr<T> RunRequest(const AdvancedIntEnumType* requestType, std::share
     return result;
 }
 
-#define SPACEMGM_RUN_REQUEST_INSTANCE(T)                                                                           \
-    template std::shared_ptr<T> RunRequest<T>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,          \
+#define SPACEMGM_RUN_REQUEST_INSTANCE(T)                                                                     \
+    template std::shared_ptr<T> RunRequest<T>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,     \
                                               std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&)
 
 SPACEMGM_RUN_REQUEST_INSTANCE(GetPimDataVersionResponse);

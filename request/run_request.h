@@ -42,9 +42,10 @@ RunRequest<NSPFoldersResponse>(const AdvancedIntEnumType*, std::shared_ptr<Posta
 extern template std::shared_ptr<StatisticResponse>
 RunRequest<StatisticResponse>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,
                               std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
-extern template std::shared_ptr<GetSpaceFromUrl>
-RunRequest<GetSpaceFromUrl>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,
-                            std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
+extern template std::shared_ptr<GetSpaceFromUrl> RunRequest<GetSpaceFromUrl>(const AdvancedIntEnumType*,
+                                                                             std::shared_ptr<PostableData>,
+                                                                             std::shared_ptr<RequestExchange>,
+                                                                             const AnyHttpHeaderMap&);
 extern template std::shared_ptr<NSPFilesResponse>
 RunRequest<NSPFilesResponse>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,
                              std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
@@ -71,33 +72,27 @@ extern template std::shared_ptr<BaseRsp> RunRequest<BaseRsp>(const AdvancedIntEn
 
 // The method the non-NSP, non-cloud-photo branches use for a reply type:
 // 1 for the quota and backup replies and BaseRsp, 0 for the others.
-template <class T>
-struct RunRequestMethod
+template <class T> struct RunRequestMethod
 {
     static constexpr AnyHttpRequestMethod value = AnyHttpGet;
 };
-template <>
-struct RunRequestMethod<GetQuotaUsedInfoResponseBk>
+template <> struct RunRequestMethod<GetQuotaUsedInfoResponseBk>
 {
     static constexpr AnyHttpRequestMethod value = AnyHttpPost;
 };
-template <>
-struct RunRequestMethod<GetQuotaUsedInfoResponse>
+template <> struct RunRequestMethod<GetQuotaUsedInfoResponse>
 {
     static constexpr AnyHttpRequestMethod value = AnyHttpPost;
 };
-template <>
-struct RunRequestMethod<QueryAllBackUpResponse>
+template <> struct RunRequestMethod<QueryAllBackUpResponse>
 {
     static constexpr AnyHttpRequestMethod value = AnyHttpPost;
 };
-template <>
-struct RunRequestMethod<QueryBackUpSmsAndCallLogResponse>
+template <> struct RunRequestMethod<QueryBackUpSmsAndCallLogResponse>
 {
     static constexpr AnyHttpRequestMethod value = AnyHttpPost;
 };
-template <>
-struct RunRequestMethod<BaseRsp>
+template <> struct RunRequestMethod<BaseRsp>
 {
     static constexpr AnyHttpRequestMethod value = AnyHttpPost;
 };

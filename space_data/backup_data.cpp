@@ -56,10 +56,12 @@ std::shared_ptr<CloudSpaceItem> MakeBackupItem(const std::vector<BackUpModel>& m
     return item;
 }
 
-std::shared_ptr<GetQuotaUsedInfoResponseBk> QueryDeviceQuota(const std::string& deviceText, const std::string& token)
+std::shared_ptr<GetQuotaUsedInfoResponseBk> QueryDeviceQuota(const std::string& deviceText,
+                                                             const std::string& token)
 {
     return RunRequest<GetQuotaUsedInfoResponseBk>(
-        &kFamilyShareType0, std::make_shared<PostableString>(ToFormText(MakeDeviceQuotaQuery(token, deviceText))));
+        &kFamilyShareType0,
+        std::make_shared<PostableString>(ToFormText(MakeDeviceQuotaQuery(token, deviceText))));
 }
 
 } // namespace
@@ -69,7 +71,8 @@ std::shared_ptr<BackupData> CloudSpaceManagementViewModel::GetBackUpData()
     auto result = std::make_shared<BackupData>();
     const HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     std::string version;
-    SendMessageW(tipWindow, tipVersionMessage, reinterpret_cast<WPARAM>(event), reinterpret_cast<LPARAM>(&version));
+    SendMessageW(tipWindow, tipVersionMessage, reinterpret_cast<WPARAM>(event),
+                 reinterpret_cast<LPARAM>(&version));
     WaitForSingleObject(event, INFINITE);
 
     if (version == "v3queryfailed") {
@@ -171,7 +174,8 @@ std::shared_ptr<BackupData> CloudSpaceManagementViewModel::GetBackUpData()
     return result;
 }
 
-std::string CloudSpaceManagementViewModel::CompareDeviceId(std::vector<BackupDevListSt> devices, QuotaDetailBk detail)
+std::string CloudSpaceManagementViewModel::CompareDeviceId(std::vector<BackupDevListSt> devices,
+                                                           QuotaDetailBk detail)
 {
     for (const BackupDevListSt& device : devices) {
         if (device.deviceId == detail.deviceId) {
@@ -181,8 +185,8 @@ std::string CloudSpaceManagementViewModel::CompareDeviceId(std::vector<BackupDev
     return std::string();
 }
 
-void CloudSpaceManagementViewModel::GetSmdAndCallLogCount(const std::vector<BackUpDevice>& devices, int& count,
-                                                          const std::string& kind)
+void CloudSpaceManagementViewModel::GetSmdAndCallLogCount(const std::vector<BackUpDevice>& devices,
+                                                          int& count, const std::string& kind)
 {
     constexpr const char* kCountFunction = "CloudSpaceManagementViewModel::GetSmdAndCallLogCount";
     auto request = std::make_shared<QueryBackUpSmsAndCallLogRequest>();
@@ -202,6 +206,7 @@ void CloudSpaceManagementViewModel::GetSmdAndCallLogCount(const std::vector<Back
             GetSmdAndCallLogCount(reply->deviceList, count, kind);
         }
     } else if (reply && reply->result != 0) {
-        SPACE_LOG_INFO(kCountFunction, "Querying BackUpSmsAndCallLog->result is " + std::to_string(reply->result));
+        SPACE_LOG_INFO(kCountFunction,
+                       "Querying BackUpSmsAndCallLog->result is " + std::to_string(reply->result));
     }
 }

@@ -8,10 +8,11 @@
 #include "space_data/cloud_space_types.h"
 #include "space_data/model_write_lock.h"
 
-struct CloudSpaceManagementModel {
-    std::vector<std::shared_ptr<CloudSpaceItem>> items;  // display order
-    ModelWriteLock itemsLock;                            // held while `items` is replaced
+struct CloudSpaceManagementModel
+{
+    std::vector<std::shared_ptr<CloudSpaceItem>> items; // display order
+    ModelWriteLock itemsLock;                           // held while `items` is replaced
     std::vector<BackUpModel> backups;
-    ModelWriteLock backupsLock;  // held while `backups` is replaced
+    ModelWriteLock backupsLock; // held while `backups` is replaced
     std::shared_ptr<CloudSpaceDetailShow> detail = std::make_shared<CloudSpaceDetailShow>();
 };

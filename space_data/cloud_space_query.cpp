@@ -26,7 +26,7 @@ const char* const kGroupKeys[] = {"backup", "drive", "photos", "other", "family"
 const std::map<std::string, unsigned long long>& DefaultColors()
 {
     static const std::map<std::string, unsigned long long> colors = {
-        {"backup", 0xFF00BFC9ULL}, {"drive", 0xFF007DFFULL}, {"photos", 0xFF47CC47ULL},
+        {"backup", 0xFF00BFC9ULL}, {"drive", 0xFF007DFFULL},  {"photos", 0xFF47CC47ULL},
         {"other", 0xFFFFBF00ULL},  {"family", 0xFFFF7500ULL},
     };
     return colors;
@@ -37,10 +37,14 @@ constexpr unsigned long long kBackgroundColor = 0xFFF2F2F2ULL;
 
 uint64_t GroupBytes(const NS::Drive::UserSpaceInfo& info, const std::string& key)
 {
-    if (key == "backup") return info.backup;
-    if (key == "drive") return info.drive;
-    if (key == "photos") return info.photos;
-    if (key == "other") return info.other;
+    if (key == "backup")
+        return info.backup;
+    if (key == "drive")
+        return info.drive;
+    if (key == "photos")
+        return info.photos;
+    if (key == "other")
+        return info.other;
     return info.family;
 }
 
@@ -202,8 +206,8 @@ std::map<std::string, long> CloudSpaceQuery::GetLengthOfItems(float scale)
             itemLengths[key] = (length > 0.0f && length < 1.0f) ? 1 : static_cast<long>(length);
         }
     }
-    itemLengths["bkcolor"] =
-        total != 0 ? static_cast<long>(static_cast<float>(total) * perByte) : static_cast<long>(scale * kBarLength);
+    itemLengths["bkcolor"] = total != 0 ? static_cast<long>(static_cast<float>(total) * perByte)
+                                        : static_cast<long>(scale * kBarLength);
     return itemLengths;
 }
 
@@ -249,8 +253,8 @@ int CloudSpaceQuery::GetUsedValue()
     if (spaceInfo.total == 0) {
         return 0;
     }
-    const int value = static_cast<int>(static_cast<double>(spaceInfo.used) / static_cast<double>(spaceInfo.total) *
-                                       10000.0);
+    const int value = static_cast<int>(static_cast<double>(spaceInfo.used) /
+                                       static_cast<double>(spaceInfo.total) * 10000.0);
     // An account with anything stored never reads as empty.
     if (spaceInfo.used != 0 && value == 0) {
         return 1;
@@ -267,7 +271,7 @@ void CloudSpaceQuery::GetUsedAndTotalValue(unsigned long long& used, unsigned lo
 bool CloudSpaceQuery::CheckRemainSpace(const unsigned long long& size)
 {
     constexpr double kLowSpaceMb = 300.0;
-    constexpr long long kRequeryAfterMs = 1200000;  // 20 minutes
+    constexpr long long kRequeryAfterMs = 1200000; // 20 minutes
     constexpr double kReserveMb = 10.0;
 
     const auto remainingMb = [this] {
@@ -295,7 +299,7 @@ long long CloudSpaceQuery::getRefaceSpaceTime()
 
 long long CloudSpaceQuery::GetLongDateTime()
 {
-    using Ticks = std::chrono::duration<long long, std::ratio<1, 10000000>>;  // 100 ns
+    using Ticks = std::chrono::duration<long long, std::ratio<1, 10000000>>; // 100 ns
     const auto ticks = std::chrono::duration_cast<Ticks>(std::chrono::system_clock::now().time_since_epoch());
     return ticks.count() / 10000;
 }

@@ -11,12 +11,14 @@
 
 #include "platform/user_space.h"
 
-class CloudSpaceQuery {
+class CloudSpaceQuery
+{
 public:
     // Colour of one quota group as the operations configuration gives it.
-    struct ItemColor {
+    struct ItemColor
+    {
         int32_t colorType = 0;
-        std::string color;  // text such as 0xFF00BFC9
+        std::string color; // text such as 0xFF00BFC9
         std::string key;
     };
 

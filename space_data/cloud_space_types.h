@@ -10,7 +10,8 @@
 // A plain integer enumeration: the value is the category everywhere, in
 // `CloudSpaceItem`, in the detail records and in the window's list. The value
 // 7 is left out on purpose; no worker, request or row ever uses it.
-enum CloudSpaceType : int32_t {
+enum CloudSpaceType : int32_t
+{
     Contact = 0,
     Notepad = 1,
     Gallery = 2,
@@ -25,7 +26,8 @@ enum CloudSpaceType : int32_t {
     Calendar = 12,
 };
 
-enum DeleteResult : int32_t {
+enum DeleteResult : int32_t
+{
     DeleteSuccess = 0,
     DeleteFailed = 1,
     // Only the harassment deletion gives it: the service reported both
@@ -35,7 +37,8 @@ enum DeleteResult : int32_t {
 
 // One category's usage. `count` stays text because the window shows it as
 // it is; categories that count records leave `space` at 0.
-struct CloudSpaceItem {
+struct CloudSpaceItem
+{
     CloudSpaceType type = Contact;
     int64_t space = 0;
     std::string count;
@@ -47,7 +50,8 @@ struct CloudSpaceItem {
 
 // One device's cloud backup row. The leading fields are filled by neither
 // generation of the backup query; they travel with the row untouched.
-struct BackUpModel {
+struct BackUpModel
+{
     int64_t reserved1 = 0;
     int64_t reserved2 = 0;
     std::string reservedText;
@@ -63,14 +67,16 @@ struct BackUpModel {
 
 // What the backup worker hands back: `item` is null when there is nothing
 // to show, `models` holds one row per device with bytes.
-struct BackupData {
+struct BackupData
+{
     std::shared_ptr<CloudSpaceItem> item;
     std::vector<BackUpModel> models;
 };
 
 // One entry of the device list that the host fills on a version 3 query.
 // Only the two strings are read here; the rest is the host's.
-struct BackupDevListSt {
+struct BackupDevListSt
+{
     std::string deviceName;
     std::string deviceId;
     std::string hostData;

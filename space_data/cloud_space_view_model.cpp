@@ -18,7 +18,8 @@ void CloudSpaceManagementViewModel::SetCloudbackupTipParam(HWND window, unsigned
     tipDeleteMessage = deleteMessage;
 }
 
-bool CloudSpaceItemComesFirst(const std::shared_ptr<CloudSpaceItem>& a, const std::shared_ptr<CloudSpaceItem>& b)
+bool CloudSpaceItemComesFirst(const std::shared_ptr<CloudSpaceItem>& a,
+                              const std::shared_ptr<CloudSpaceItem>& b)
 {
     // An item never precedes itself; the sort may compare an element with
     // itself, and the backup rule below would otherwise say it does.

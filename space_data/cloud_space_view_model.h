@@ -20,7 +20,8 @@ class GetQuotaUsedInfoResponseBk;
 class QuotaDetailBk;
 class BackUpDevice;
 
-class CloudSpaceManagementViewModel {
+class CloudSpaceManagementViewModel
+{
 public:
     CloudSpaceManagementViewModel();
     ~CloudSpaceManagementViewModel();
@@ -50,10 +51,11 @@ public:
     void GetV1NotepadData(std::shared_ptr<CloudSpaceItem>& item, std::string token);
     void GetSpaceFromPim(std::string kinds, std::string serviceId, std::shared_ptr<CloudSpaceItem>& item,
                          std::string token, CloudSpaceType type);
-    void GetV2PimData(std::shared_ptr<CloudSpaceItem>& item, std::shared_ptr<GetQuotaUsedInfoResponseBk> reply,
-                      CloudSpaceType type, std::string kind);
-    void GetV2BrowserData(std::shared_ptr<CloudSpaceItem>& item, std::shared_ptr<GetQuotaUsedInfoResponseBk> reply,
-                          CloudSpaceType type);
+    void GetV2PimData(std::shared_ptr<CloudSpaceItem>& item,
+                      std::shared_ptr<GetQuotaUsedInfoResponseBk> reply, CloudSpaceType type,
+                      std::string kind);
+    void GetV2BrowserData(std::shared_ptr<CloudSpaceItem>& item,
+                          std::shared_ptr<GetQuotaUsedInfoResponseBk> reply, CloudSpaceType type);
 
     std::string CompareDeviceId(std::vector<BackupDevListSt> devices, QuotaDetailBk detail);
     void GetSmdAndCallLogCount(const std::vector<BackUpDevice>& devices, int& count, const std::string& kind);
@@ -93,4 +95,5 @@ private:
 
 // Whether `a` is listed before `b`: the cloud backup row first, then rows
 // with bytes (largest first), then rows with a count (largest first).
-bool CloudSpaceItemComesFirst(const std::shared_ptr<CloudSpaceItem>& a, const std::shared_ptr<CloudSpaceItem>& b);
+bool CloudSpaceItemComesFirst(const std::shared_ptr<CloudSpaceItem>& a,
+                              const std::shared_ptr<CloudSpaceItem>& b);

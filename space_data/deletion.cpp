@@ -38,7 +38,8 @@ DeleteResult CloudSpaceManagementViewModel::DeleteBackUp(const BackUpModel& mode
     }
     const HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     std::string outcome = request->deviceId;
-    SendMessageW(tipWindow, tipDeleteMessage, reinterpret_cast<WPARAM>(event), reinterpret_cast<LPARAM>(&outcome));
+    SendMessageW(tipWindow, tipDeleteMessage, reinterpret_cast<WPARAM>(event),
+                 reinterpret_cast<LPARAM>(&outcome));
     WaitForSingleObject(event, INFINITE);
     CloseHandle(event);
     if (outcome == "success") {
@@ -59,8 +60,9 @@ DeleteResult CloudSpaceManagementViewModel::DeleteBackItem(const BackUpModel& mo
         return DeleteFailed;
     }
     auto& backups = this->model->backups;
-    const auto row = std::find_if(backups.begin(), backups.end(),
-                                  [&model](const BackUpModel& candidate) { return candidate.deviceId == model.deviceId; });
+    const auto row = std::find_if(backups.begin(), backups.end(), [&model](const BackUpModel& candidate) {
+        return candidate.deviceId == model.deviceId;
+    });
     if (row != backups.end()) {
         backups.erase(row);
     }
@@ -72,8 +74,9 @@ void CloudSpaceManagementViewModel::DeleteLIstBK(const BackUpModel& model)
     // `model` may be a row of the same vector: copy the id before erasing.
     const std::string deviceId = model.deviceId;
     auto& backups = this->model->backups;
-    const auto row = std::find_if(backups.begin(), backups.end(),
-                                  [&deviceId](const BackUpModel& candidate) { return candidate.deviceId == deviceId; });
+    const auto row = std::find_if(backups.begin(), backups.end(), [&deviceId](const BackUpModel& candidate) {
+        return candidate.deviceId == deviceId;
+    });
     if (row != backups.end()) {
         backups.erase(row);
     }
@@ -116,11 +119,12 @@ DeleteResult CloudSpaceManagementViewModel::DeleteHarassmentInterception()
 
     std::vector<std::string> deleteList;
     if (!paths.empty()) {
-        const auto files =
-            RunRequest<NSPFilesResponse>(&kNspRequestType6, MakeNspFiles(CurrentAccessTokenUtf8(), paths, ""));
+        const auto files = RunRequest<NSPFilesResponse>(&kNspRequestType6,
+                                                        MakeNspFiles(CurrentAccessTokenUtf8(), paths, ""));
         if (files && files->fileList) {
             for (const auto& file : *files->fileList) {
-                if (file && file->type == "File" && Lower(file->name).find("phonemanager") != std::string::npos) {
+                if (file && file->type == "File" &&
+                    Lower(file->name).find("phonemanager") != std::string::npos) {
                     deleteList.push_back(file->name);
                 }
             }

@@ -69,7 +69,8 @@ std::shared_ptr<PostableString> FormBody(const QuotaUsedQuery& query)
 }
 
 // One category that lives on either data store.
-struct VersionRoad {
+struct VersionRoad
+{
     const char* startLine;
     const PimDataVerionType& versionRow;
     std::function<void(std::shared_ptr<CloudSpaceItem>&)> versionOne;
@@ -93,7 +94,8 @@ std::shared_ptr<CloudSpaceItem> CountOnlyItem(CloudSpaceType type, int count)
 } // namespace
 
 std::shared_ptr<CloudSpaceItem>
-CloudSpaceManagementViewModel::GetItemSpace(CloudSpaceType type, std::vector<std::shared_ptr<CloudSpaceItem>>& items)
+CloudSpaceManagementViewModel::GetItemSpace(CloudSpaceType type,
+                                            std::vector<std::shared_ptr<CloudSpaceItem>>& items)
 {
     std::shared_ptr<CloudSpaceItem> result;
     const std::string token = CurrentAccessTokenUtf8();
@@ -123,10 +125,11 @@ CloudSpaceManagementViewModel::GetItemSpace(CloudSpaceType type, std::vector<std
                         "Getting Item Space: Contact v2 Version end.", "Getting Contact Version Error."});
         break;
     case Notepad:
-        runVersionRoad({"Getting Item Space: Notepad starts.", kPimDataVerionType1,
-                        [this, &token](std::shared_ptr<CloudSpaceItem>& item) { GetV1NotepadData(item, token); },
-                        "Getting Item Space: Notepad V1 ends.", "[note]", "1001",
-                        "Getting Item Space: Notepad V2 ends.", "Getting Notepad Version Error."});
+        runVersionRoad(
+            {"Getting Item Space: Notepad starts.", kPimDataVerionType1,
+             [this, &token](std::shared_ptr<CloudSpaceItem>& item) { GetV1NotepadData(item, token); },
+             "Getting Item Space: Notepad V1 ends.", "[note]", "1001", "Getting Item Space: Notepad V2 ends.",
+             "Getting Notepad Version Error."});
         break;
     case Browser:
         runVersionRoad({"Getting Item Space: Browser starts.", kPimDataVerionType4,
@@ -139,8 +142,8 @@ CloudSpaceManagementViewModel::GetItemSpace(CloudSpaceType type, std::vector<std
                         [this](std::shared_ptr<CloudSpaceItem>& item) {
                             item = CountOnlyItem(Wlan, GetNumFromPIMDS(kPimdsType2));
                         },
-                        "Getting Item Space: Wlan v1 ends.", "[wlan]", "1004", "Getting Item Space: Wlan v2 ends.",
-                        "Getting Wlan Version Error."});
+                        "Getting Item Space: Wlan v1 ends.", "[wlan]", "1004",
+                        "Getting Item Space: Wlan v2 ends.", "Getting Wlan Version Error."});
         break;
     case Calendar:
         // The version 2 end line says v1 as well; log readers match on it.
@@ -170,7 +173,8 @@ CloudSpaceManagementViewModel::GetItemSpace(CloudSpaceType type, std::vector<std
                     result->recycle = recycleTotal;
                 }
             } else if (galleryResponse->retCode != 0) {
-                SPACE_LOG_INFO(kFunction, "galleryResponse->retCode = " + std::to_string(galleryResponse->retCode));
+                SPACE_LOG_INFO(kFunction,
+                               "galleryResponse->retCode = " + std::to_string(galleryResponse->retCode));
             }
         }
         SPACE_LOG_INFO(kFunction, "Getting Item Space: Gallery ends.");
@@ -186,12 +190,13 @@ CloudSpaceManagementViewModel::GetItemSpace(CloudSpaceType type, std::vector<std
             SPACE_LOG_INFO(kFunction, "Getting space from url successfully.");
             if (getSpaceFromUrl->used > 0) {
                 SPACE_LOG_INFO(kFunction, "Cutted status.");
-                const auto recycleResponse =
-                    RunRequest<GetQuotaUsedInfoResponse>(&kFamilyShareType2, FormBody(MakeDriveQuotaQuery(token)));
+                const auto recycleResponse = RunRequest<GetQuotaUsedInfoResponse>(
+                    &kFamilyShareType2, FormBody(MakeDriveQuotaQuery(token)));
                 if (recycleResponse && recycleResponse->retCode == 0) {
                     SPACE_LOG_INFO(kFunction, "Getting quota used info of CloudDisk space successfully.");
                 } else if (recycleResponse) {
-                    SPACE_LOG_INFO(kFunction, "recycleResponse->retCode = " + std::to_string(recycleResponse->retCode));
+                    SPACE_LOG_INFO(kFunction,
+                                   "recycleResponse->retCode = " + std::to_string(recycleResponse->retCode));
                 }
                 result = NewItem(CloudDisk);
                 result->space = getSpaceFromUrl->used;
@@ -199,7 +204,8 @@ CloudSpaceManagementViewModel::GetItemSpace(CloudSpaceType type, std::vector<std
                 result->recycle = (recycleResponse && recycleResponse->used >= 0) ? recycleResponse->used : 0;
             }
         } else if (getSpaceFromUrl) {
-            SPACE_LOG_INFO(kFunction, "getSpaceFromUrl->retCode = " + std::to_string(getSpaceFromUrl->retCode));
+            SPACE_LOG_INFO(kFunction,
+                           "getSpaceFromUrl->retCode = " + std::to_string(getSpaceFromUrl->retCode));
         }
         SPACE_LOG_INFO(kFunction, "Getting Item Space: CloudDisk ends.");
         break;
@@ -248,12 +254,14 @@ CloudSpaceManagementViewModel::GetItemSpace(CloudSpaceType type, std::vector<std
             paths = FolderPaths(*listing, china, "/sysdata");
         }
         if (!paths.empty()) {
-            const auto files = RunRequest<NSPFilesResponse>(&kNspRequestType6, MakeNspFiles(token, paths, ""));
+            const auto files =
+                RunRequest<NSPFilesResponse>(&kNspRequestType6, MakeNspFiles(token, paths, ""));
             int64_t total = 0;
             if (HasFiles(files)) {
                 SPACE_LOG_INFO(kFunction, "Getting NSPFilesResponse successfully.");
                 for (const auto& file : *files->fileList) {
-                    if (file && file->type == "File" && Lower(file->name).find("phonemanager") != std::string::npos) {
+                    if (file && file->type == "File" &&
+                        Lower(file->name).find("phonemanager") != std::string::npos) {
                         total += std::atoi(file->size.c_str());
                     }
                 }
@@ -270,13 +278,15 @@ CloudSpaceManagementViewModel::GetItemSpace(CloudSpaceType type, std::vector<std
     case Message:
     case Phone: {
         const bool messages = type == Message;
-        SPACE_LOG_INFO(kFunction, messages ? "Getting Item Space: Message starts." : "Getting Item Space: Phone starts.");
+        SPACE_LOG_INFO(kFunction, messages ? "Getting Item Space: Message starts."
+                                           : "Getting Item Space: Phone starts.");
         int count = 0;
         // "callLog" in camel case: the count command spells it so, unlike
         // the deletion's "calllog".
         GetSmdAndCallLogCount({}, count, messages ? "sms" : "callLog");
         result = CountOnlyItem(type, count);
-        SPACE_LOG_INFO(kFunction, messages ? "Getting Item Space: Message ends." : "Getting Item Space: Phone ends.");
+        SPACE_LOG_INFO(kFunction,
+                       messages ? "Getting Item Space: Message ends." : "Getting Item Space: Phone ends.");
         break;
     }
     default:

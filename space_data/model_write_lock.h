@@ -6,7 +6,8 @@
 #include <cstdint>
 #include <mutex>
 
-class ModelWriteLock {
+class ModelWriteLock
+{
 public:
     void Enter();
     void Leave();
@@ -22,7 +23,8 @@ private:
 };
 
 // Holds a `ModelWriteLock` for one scope.
-class ModelWriteGuard {
+class ModelWriteGuard
+{
 public:
     explicit ModelWriteGuard(ModelWriteLock& lock) : lock_(lock) { lock_.Enter(); }
     ~ModelWriteGuard() { lock_.Leave(); }

@@ -33,7 +33,8 @@ std::string CloudSpaceManagementViewModel::GetPimDataVersion(const AdvancedIntEn
     if (!reply) {
         return std::string();
     }
-    SPACE_LOG_INFO("CloudSpaceManagementViewModel::GetPimDataVersion", "Getting pim data version successfully.");
+    SPACE_LOG_INFO("CloudSpaceManagementViewModel::GetPimDataVersion",
+                   "Getting pim data version successfully.");
     // A store that names no version is the old one.
     return reply->dataVersion.empty() ? std::string("v1.0") : reply->dataVersion;
 }
@@ -47,12 +48,13 @@ int CloudSpaceManagementViewModel::GetNumFromPIMDS(const PimdsType& type)
         return 0;
     }
     if (!reply->result) {
-        SPACE_LOG_ERROR(kFunction, "Getting statistic response failed,query PIMDS Failed Code: data->result is null");
+        SPACE_LOG_ERROR(kFunction,
+                        "Getting statistic response failed,query PIMDS Failed Code: data->result is null");
         return 0;
     }
     if (reply->result->code != 0) {
-        SPACE_LOG_ERROR(kFunction,
-                        "Getting statistic response failed,query PIMDS Failed Code: " + std::to_string(reply->result->code));
+        SPACE_LOG_ERROR(kFunction, "Getting statistic response failed,query PIMDS Failed Code: " +
+                                       std::to_string(reply->result->code));
         return 0;
     }
     SPACE_LOG_DEBUG(kFunction, "Getting statistic response successfully.");
@@ -74,8 +76,8 @@ std::shared_ptr<StatisticResponse> CloudSpaceManagementViewModel::GetContactNumF
         return reply;
     }
     if (reply->result->code != 0) {
-        SPACE_LOG_ERROR(kFunction, "QueryContactCount Query PIMDS Failed Code : " + std::to_string(reply->result->code) +
-                                       ", info:" + reply->result->info);
+        SPACE_LOG_ERROR(kFunction, "QueryContactCount Query PIMDS Failed Code : " +
+                                       std::to_string(reply->result->code) + ", info:" + reply->result->info);
         return nullptr;
     }
     return reply;
@@ -90,8 +92,9 @@ std::shared_ptr<StatisticResponse> CloudSpaceManagementViewModel::GetBrowserNumF
         return reply;
     }
     if (reply->result->code != 0) {
-        SPACE_LOG_ERROR(kFunction, "QueryBrowserCount Query PIMDS Failed Code : " + std::to_string(reply->result->code) +
-                                       ", info: " + reply->result->info);
+        SPACE_LOG_ERROR(kFunction,
+                        "QueryBrowserCount Query PIMDS Failed Code : " + std::to_string(reply->result->code) +
+                            ", info: " + reply->result->info);
         return nullptr;
     }
     return reply;
@@ -154,8 +157,8 @@ void CloudSpaceManagementViewModel::GetV1NotepadData(std::shared_ptr<CloudSpaceI
 {
     constexpr const char* kFunction = "CloudSpaceManagementViewModel::GetV1NotepadData";
     int64_t space = 0;
-    const auto attributes =
-        RunRequest<NSPFoldersResponse>(&kNspRequestType6, MakeNspGetAttr(token, {"/Sync/note"}, {"name", "space"}));
+    const auto attributes = RunRequest<NSPFoldersResponse>(
+        &kNspRequestType6, MakeNspGetAttr(token, {"/Sync/note"}, {"name", "space"}));
     if (attributes && attributes->successList && attributes->successList->size() == 1) {
         SPACE_LOG_INFO(kFunction, "Getting nsp attributes successfully.");
         const auto& folder = attributes->successList->front();
@@ -194,8 +197,8 @@ void CloudSpaceManagementViewModel::GetSpaceFromPim(std::string kinds, std::stri
     query.q = "collection=private and kind in " + kinds + " and (trashed=true or trashed=false)";
     query.serviceType = serviceId;
     query.accessToken = token;
-    const auto reply = RunRequest<GetQuotaUsedInfoResponseBk>(&kFamilyShareType0,
-                                                              std::make_shared<PostableString>(ToFormText(query)));
+    const auto reply = RunRequest<GetQuotaUsedInfoResponseBk>(
+        &kFamilyShareType0, std::make_shared<PostableString>(ToFormText(query)));
     switch (type) {
     case Contact:
         GetV2PimData(item, reply, type, "contact");
@@ -219,8 +222,8 @@ void CloudSpaceManagementViewModel::GetSpaceFromPim(std::string kinds, std::stri
 }
 
 void CloudSpaceManagementViewModel::GetV2PimData(std::shared_ptr<CloudSpaceItem>& item,
-                                                 std::shared_ptr<GetQuotaUsedInfoResponseBk> reply, CloudSpaceType type,
-                                                 std::string kind)
+                                                 std::shared_ptr<GetQuotaUsedInfoResponseBk> reply,
+                                                 CloudSpaceType type, std::string kind)
 {
     constexpr const char* kFunction = "CloudSpaceManagementViewModel::GetV2PimData";
     if (!reply) {

@@ -6,7 +6,8 @@
 
 #include "platform/logger.h"
 
-inline void SpaceLog(int severity, int line, const char* function, const std::string& message, bool flush = true)
+inline void SpaceLog(int severity, int line, const char* function, const std::string& message,
+                     bool flush = true)
 {
     Logger::Output(Logger::subSpaceManage, severity, line, function, message, flush);
 }

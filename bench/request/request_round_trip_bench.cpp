@@ -47,7 +47,8 @@ bool QueryThroughTheModule()
 {
     const std::string token = host::CurrentHostConfig().session.accessToken;
     const auto reply = RunRequest<GetQuotaUsedInfoResponse>(
-        FindEnumRow<FamilyShareType>(2), std::make_shared<PostableString>(ToFormText(MakePhotoQuotaQuery(token))));
+        FindEnumRow<FamilyShareType>(2),
+        std::make_shared<PostableString>(ToFormText(MakePhotoQuotaQuery(token))));
     return reply != nullptr && reply->retCode == 0;
 }
 
@@ -61,14 +62,16 @@ size_t Collect(char* data, size_t size, size_t count, void* body)
 class BareQuotaRequest
 {
 public:
-    explicit BareQuotaRequest(const CloudEmulator& cloud) : url_(cloud.BaseUrl("familyShare") + "/rest.php"), caFile_(cloud.CaFile())
+    explicit BareQuotaRequest(const CloudEmulator& cloud)
+        : url_(cloud.BaseUrl("familyShare") + "/rest.php"), caFile_(cloud.CaFile())
     {
         spacemgm_test::WireSession session =
             spacemgm_test::SessionOfFixture(CloudEmulator::FixturePath("sample"));
         session.deviceName = UrlEncode(GetDeviceModel());
         form_ = spacemgm_test::QuotaForm(session.accessToken, kPhotoFilter, "10880002");
         for (const auto& [name, value] : spacemgm_test::ModuleHeaders("familyShare", session)) {
-            headers_ = curl_slist_append(headers_, (value.empty() ? name + ";" : name + ": " + value).c_str());
+            headers_ =
+                curl_slist_append(headers_, (value.empty() ? name + ";" : name + ": " + value).c_str());
         }
         headers_ = curl_slist_append(headers_, "Accept:");
         headers_ = curl_slist_append(headers_, "Expect:");
@@ -143,8 +146,7 @@ BENCHMARK(BM_BareCurlRoundTrip)->Unit(benchmark::kMicrosecond)->MinTime(2.0);
 
 // Twelve threads start together and each sends one query; an iteration ends
 // when all twelve have their answer.
-template <class Send>
-int64_t RunTwelveAtOnce(const Send& send)
+template <class Send> int64_t RunTwelveAtOnce(const Send& send)
 {
     std::atomic<int64_t> failures{0};
     std::vector<std::thread> workers;
@@ -167,7 +169,10 @@ void BM_TwelveTlsRequestsThroughTheSharedCache(benchmark::State& state)
     }
     ReportFailures(state, failures);
 }
-BENCHMARK(BM_TwelveTlsRequestsThroughTheSharedCache)->Unit(benchmark::kMillisecond)->MinTime(3.0)->UseRealTime();
+BENCHMARK(BM_TwelveTlsRequestsThroughTheSharedCache)
+    ->Unit(benchmark::kMillisecond)
+    ->MinTime(3.0)
+    ->UseRealTime();
 
 void BM_TwelveTlsRequestsOnFreshConnections(benchmark::State& state)
 {

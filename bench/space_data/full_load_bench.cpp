@@ -32,15 +32,17 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kLatencyMs = 50;
 
-const CloudSpaceType kItemCategories[] = {Browser, Calendar, CloudDisk,  Contact, Gallery, HarassmentInterception,
-                                          Message, Notepad,  Phone,      Recorder, Wlan};
+const CloudSpaceType kItemCategories[] = {
+    Browser, Calendar, CloudDisk, Contact,  Gallery, HarassmentInterception,
+    Message, Notepad,  Phone,     Recorder, Wlan};
 
 double MillisecondsSince(Clock::time_point start)
 {
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-struct SequentialRun {
+struct SequentialRun
+{
     double milliseconds = 0;
     int longestCategoryChain = 0;
     int requests = 0;

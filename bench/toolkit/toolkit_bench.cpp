@@ -41,7 +41,8 @@ constexpr const wchar_t* kRowSkin = LR"(<ListContainerElement height="48" inset=
   </HorizontalLayout>
 </ListContainerElement>)";
 
-class BenchWindow : public WindowImplBaseEx {
+class BenchWindow : public WindowImplBaseEx
+{
 public:
     CPaintManagerUI& pm() { return m_pm; }
 
@@ -125,11 +126,13 @@ void BM_IdleWindowCpu(benchmark::State& state)
         const auto wallBefore = std::chrono::steady_clock::now();
         MSG msg{};
         while (::GetMessageW(&msg, nullptr, 0, 0) > 0) {
-            if (msg.message == WM_TIMER && msg.hwnd == hwnd && msg.wParam == 1) break;
+            if (msg.message == WM_TIMER && msg.hwnd == hwnd && msg.wParam == 1)
+                break;
             ::DispatchMessageW(&msg);
         }
         ::KillTimer(hwnd, 1);
-        const double wall = std::chrono::duration<double>(std::chrono::steady_clock::now() - wallBefore).count();
+        const double wall =
+            std::chrono::duration<double>(std::chrono::steady_clock::now() - wallBefore).count();
         cpuPercent = 100.0 * (ThreadCpuSeconds() - cpuBefore) / wall;
         state.SetIterationTime(wall);
     }
@@ -138,6 +141,6 @@ void BM_IdleWindowCpu(benchmark::State& state)
 }
 BENCHMARK(BM_IdleWindowCpu)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 
-}  // namespace
+} // namespace
 
 BENCHMARK_MAIN();

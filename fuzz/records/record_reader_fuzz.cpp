@@ -19,8 +19,7 @@ namespace {
 
 using RecordFactory = std::function<std::unique_ptr<SerializableObject>()>;
 
-template <class Record>
-RecordFactory Make()
+template <class Record> RecordFactory Make()
 {
     return [] { return std::make_unique<Record>(); };
 }
@@ -28,15 +27,31 @@ RecordFactory Make()
 const std::vector<RecordFactory>& Factories()
 {
     static const std::vector<RecordFactory> factories = {
-        Make<QuotaDetail>(),        Make<GetQuotaUsedInfoResponse>(), Make<QuotaDetailBk>(),
-        Make<GetQuotaUsedInfoResponseBk>(), Make<GetSpaceFromUrl>(),  Make<DataObject>(),
-        Make<ResultObject>(),       Make<StatisticResponse>(),        Make<BaseRsp>(),
-        Make<BaseResult>(),         Make<AboutResponse>(),            Make<GetPimDataVersionResponse>(),
-        Make<BackUpDevice>(),       Make<BackupRecord>(),             Make<QueryAllBackUpResponse>(),
-        Make<BackUpSmsAndCallLogRecord>(), Make<QueryBackUpSmsAndCallLogResponse>(),
-        Make<NspFiles>(),           Make<NspFolders>(),               Make<NspDelFiles>(),
-        Make<NspGetAttr>(),         Make<FolderOrFilesInfo>(),        Make<NSPResponse>(),
-        Make<NSPFilesResponse>(),   Make<NSPFoldersResponse>(),
+        Make<QuotaDetail>(),
+        Make<GetQuotaUsedInfoResponse>(),
+        Make<QuotaDetailBk>(),
+        Make<GetQuotaUsedInfoResponseBk>(),
+        Make<GetSpaceFromUrl>(),
+        Make<DataObject>(),
+        Make<ResultObject>(),
+        Make<StatisticResponse>(),
+        Make<BaseRsp>(),
+        Make<BaseResult>(),
+        Make<AboutResponse>(),
+        Make<GetPimDataVersionResponse>(),
+        Make<BackUpDevice>(),
+        Make<BackupRecord>(),
+        Make<QueryAllBackUpResponse>(),
+        Make<BackUpSmsAndCallLogRecord>(),
+        Make<QueryBackUpSmsAndCallLogResponse>(),
+        Make<NspFiles>(),
+        Make<NspFolders>(),
+        Make<NspDelFiles>(),
+        Make<NspGetAttr>(),
+        Make<FolderOrFilesInfo>(),
+        Make<NSPResponse>(),
+        Make<NSPFilesResponse>(),
+        Make<NSPFoldersResponse>(),
     };
     return factories;
 }

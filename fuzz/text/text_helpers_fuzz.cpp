@@ -38,8 +38,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 
     const std::string encoded = UrlEncode(text);
     for (char c : encoded) {
-        const bool plain = std::isalnum(static_cast<unsigned char>(c)) || c == '%' || c == '*' ||
-                           c == '-' || c == '.' || c == '_';
+        const bool plain = std::isalnum(static_cast<unsigned char>(c)) || c == '%' || c == '*' || c == '-' ||
+                           c == '.' || c == '_';
         if (!plain) {
             __builtin_trap();
         }

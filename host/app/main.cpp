@@ -30,7 +30,8 @@ void PrintUsage()
                  "       spacemgm delete backup DEVICE | messages | calls | harassment [--config FILE]\n");
 }
 
-struct CommandLine {
+struct CommandLine
+{
     std::vector<std::string> words;
     std::optional<std::string> configPath;
     bool json = false;
@@ -59,9 +60,12 @@ bool Parse(int argc, char** argv, CommandLine& line)
 const char* ResultName(DeleteResult result)
 {
     switch (result) {
-    case DeleteSuccess: return "DeleteSuccess";
-    case DeleteFailed: return "DeleteFailed";
-    case DeletePartFailed: return "DeletePartFailed";
+    case DeleteSuccess:
+        return "DeleteSuccess";
+    case DeleteFailed:
+        return "DeleteFailed";
+    case DeletePartFailed:
+        return "DeletePartFailed";
     }
     return "unknown";
 }

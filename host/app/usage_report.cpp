@@ -20,8 +20,7 @@ std::string Hex(unsigned long long color)
     return buffer;
 }
 
-template <class Map>
-typename Map::mapped_type ValueOr0(const Map& map, const std::string& key)
+template <class Map> typename Map::mapped_type ValueOr0(const Map& map, const std::string& key)
 {
     const auto found = map.find(key);
     return found == map.end() ? typename Map::mapped_type() : found->second;
@@ -38,18 +37,30 @@ std::string ColorText(const UsageReport& report, const std::string& key)
 std::string CategoryName(CloudSpaceType type)
 {
     switch (type) {
-    case Contact: return "Contact";
-    case Notepad: return "Notepad";
-    case Gallery: return "Gallery";
-    case CloudDisk: return "CloudDisk";
-    case Recorder: return "Recorder";
-    case CloudBackUp: return "CloudBackUp";
-    case Browser: return "Browser";
-    case HarassmentInterception: return "HarassmentInterception";
-    case Message: return "Message";
-    case Phone: return "Phone";
-    case Wlan: return "Wlan";
-    case Calendar: return "Calendar";
+    case Contact:
+        return "Contact";
+    case Notepad:
+        return "Notepad";
+    case Gallery:
+        return "Gallery";
+    case CloudDisk:
+        return "CloudDisk";
+    case Recorder:
+        return "Recorder";
+    case CloudBackUp:
+        return "CloudBackUp";
+    case Browser:
+        return "Browser";
+    case HarassmentInterception:
+        return "HarassmentInterception";
+    case Message:
+        return "Message";
+    case Phone:
+        return "Phone";
+    case Wlan:
+        return "Wlan";
+    case Calendar:
+        return "Calendar";
     }
     return "Unknown";
 }
@@ -65,27 +76,29 @@ std::string FormatUsageText(const UsageReport& report)
     out << "Used " << report.usedText << " of " << report.totalText << "\n";
     out << "Groups:\n";
     for (const char* key : kGroupKeys) {
-        out << "  " << key << ": " << ValueOr0(report.storage, key) << " bytes, colour " << ColorText(report, key)
-            << ", bar " << ValueOr0(report.lengths, key) << "\n";
+        out << "  " << key << ": " << ValueOr0(report.storage, key) << " bytes, colour "
+            << ColorText(report, key) << ", bar " << ValueOr0(report.lengths, key) << "\n";
     }
-    out << "  full: colour " << ColorText(report, "full") << ", bar " << ValueOr0(report.lengths, "full") << "\n";
-    out << "  bkcolor: colour " << ColorText(report, "bkcolor") << ", bar " << ValueOr0(report.lengths, "bkcolor")
+    out << "  full: colour " << ColorText(report, "full") << ", bar " << ValueOr0(report.lengths, "full")
         << "\n";
+    out << "  bkcolor: colour " << ColorText(report, "bkcolor") << ", bar "
+        << ValueOr0(report.lengths, "bkcolor") << "\n";
     out << "Categories:\n";
     if (report.items.empty()) {
         out << "  (none)\n";
     }
     for (const auto& item : report.items) {
-        out << "  " << CategoryName(item->type) << ": size " << (item->space > 0 ? CategorySizeText(*item) : "-")
-            << ", count " << (item->count.empty() ? "-" : item->count) << "\n";
+        out << "  " << CategoryName(item->type) << ": size "
+            << (item->space > 0 ? CategorySizeText(*item) : "-") << ", count "
+            << (item->count.empty() ? "-" : item->count) << "\n";
     }
     out << "Backups:\n";
     if (report.backups.empty()) {
         out << "  (none)\n";
     }
     for (const BackUpModel& backup : report.backups) {
-        out << "  " << (backup.deviceName.empty() ? "(unnamed device)" : backup.deviceName) << ": " << backup.sizeText
-            << " (" << backup.size << " bytes), device " << backup.deviceId << "\n";
+        out << "  " << (backup.deviceName.empty() ? "(unnamed device)" : backup.deviceName) << ": "
+            << backup.sizeText << " (" << backup.size << " bytes), device " << backup.deviceId << "\n";
     }
     return out.str();
 }

@@ -12,7 +12,8 @@
 
 namespace app {
 
-struct UsageReport {
+struct UsageReport
+{
     std::string usedText;
     std::string totalText;
     unsigned long long usedBytes = 0;

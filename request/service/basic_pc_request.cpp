@@ -13,7 +13,9 @@ bool IsBasicRow(const BasicType& type, int32_t rowId)
 
 } // namespace
 
-BasicPCRequest::BasicPCRequest() : PCHttpRequest(WideToUtf8(GlobalParamWrapper::GetInstance()->GetBasicUrl())) {}
+BasicPCRequest::BasicPCRequest() : PCHttpRequest(WideToUtf8(GlobalParamWrapper::GetInstance()->GetBasicUrl()))
+{
+}
 
 void BasicPCRequest::AddHeaders()
 {

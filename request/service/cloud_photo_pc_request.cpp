@@ -13,7 +13,8 @@ bool IsCloudPhotoRow(const AdvancedIntEnumType& row, int32_t id)
     return known != nullptr && row == *known;
 }
 
-void FillCloudPhotoHeaders(AnyHttpHeaderMap& headers, const AdvancedIntEnumType& row, const std::string& traceId)
+void FillCloudPhotoHeaders(AnyHttpHeaderMap& headers, const AdvancedIntEnumType& row,
+                           const std::string& traceId)
 {
     headers["x-zp-trace-id"] = traceId;
     headers["Content-Type"] = "application/json";

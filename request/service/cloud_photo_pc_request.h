@@ -24,7 +24,8 @@ public:
 
 // The headers a cloud photo request of the first interface computes for `row`
 // (client-type and Cflg only for row 10).
-void FillCloudPhotoHeaders(AnyHttpHeaderMap& headers, const AdvancedIntEnumType& row, const std::string& traceId);
+void FillCloudPhotoHeaders(AnyHttpHeaderMap& headers, const AdvancedIntEnumType& row,
+                           const std::string& traceId);
 
 // True when `row` has the id of CloudPhotoInterfaceType `id`.
 bool IsCloudPhotoRow(const AdvancedIntEnumType& row, int32_t id);

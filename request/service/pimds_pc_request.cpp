@@ -3,7 +3,9 @@
 #include "foundation/utilities.h"
 #include "platform/global_param_wrapper.h"
 
-PIMDSPCRequest::PIMDSPCRequest() : PCHttpRequest(WideToUtf8(GlobalParamWrapper::GetInstance()->GetPIMDSUrl())) {}
+PIMDSPCRequest::PIMDSPCRequest() : PCHttpRequest(WideToUtf8(GlobalParamWrapper::GetInstance()->GetPIMDSUrl()))
+{
+}
 
 void PIMDSPCRequest::AddHeaders()
 {

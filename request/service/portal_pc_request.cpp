@@ -10,7 +10,8 @@ const std::string& PortalCookieText()
     return cookie;
 }
 
-PortalPCRequest::PortalPCRequest() : PCHttpRequest(WideToUtf8(GlobalParamWrapper::GetInstance()->GetPortalUrl()))
+PortalPCRequest::PortalPCRequest()
+    : PCHttpRequest(WideToUtf8(GlobalParamWrapper::GetInstance()->GetPortalUrl()))
 {
 }
 

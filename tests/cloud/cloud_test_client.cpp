@@ -43,7 +43,8 @@ CloudReply CloudTestClient::Send(const std::string& service, const std::string& 
     HeaderList headers = ModuleHeaders(service, session_);
     if (tweak)
         tweak(headers);
-    HttpResult r = HttpExchange(method, cloud_.BaseUrl(service) + pathAndQuery, headers, body, cloud_.CaFile());
+    HttpResult r =
+        HttpExchange(method, cloud_.BaseUrl(service) + pathAndQuery, headers, body, cloud_.CaFile());
     CloudReply reply;
     reply.status = r.status;
     reply.body = r.body;
@@ -57,7 +58,8 @@ CloudReply CloudTestClient::QuotaQuery(const std::string& q, const std::string& 
     return Send("familyShare", "POST", "/rest.php", QuotaForm(session_.accessToken, q, serviceType));
 }
 
-CloudReply CloudTestClient::Nsp(const std::string& op, const std::vector<std::pair<std::string, std::string>>& rest) const
+CloudReply CloudTestClient::Nsp(const std::string& op,
+                                const std::vector<std::pair<std::string, std::string>>& rest) const
 {
     return Send("nsp", "POST", "", NspForm(op, session_.accessToken, rest));
 }

@@ -32,7 +32,8 @@ Json::Value LastEntry(const CloudEmulator& cloud)
 TEST(EmptyHeader, EmptyDeviceNameIsPresentAndAccepted)
 {
     CloudEmulator cloud;
-    CloudReply r = PhotoQuotaWithDeviceName(cloud, [](HeaderList& h) { SetHeader(h, "x-zp-device-name", ""); });
+    CloudReply r =
+        PhotoQuotaWithDeviceName(cloud, [](HeaderList& h) { SetHeader(h, "x-zp-device-name", ""); });
     EXPECT_EQ(r.status, 200) << r.body;
     EXPECT_EQ(r.json["retCode"].asInt(), 0) << r.body;
     const Json::Value entry = LastEntry(cloud);
@@ -44,7 +45,8 @@ TEST(EmptyHeader, EmptyDeviceNameIsPresentAndAccepted)
 TEST(EmptyHeader, LeftOutDeviceNameIsStillRefused)
 {
     CloudEmulator cloud;
-    CloudReply r = PhotoQuotaWithDeviceName(cloud, [](HeaderList& h) { RemoveHeader(h, "x-zp-device-name"); });
+    CloudReply r =
+        PhotoQuotaWithDeviceName(cloud, [](HeaderList& h) { RemoveHeader(h, "x-zp-device-name"); });
     EXPECT_EQ(r.status, 400) << r.body;
     EXPECT_EQ(LastEntry(cloud)["verdict"].asString(), "refused: x-zp-device-name: missing");
 }
@@ -70,12 +72,13 @@ TEST(EmptyHeader, EmptyHeaderSentTwiceIsCountedTwice)
     CloudEmulator cloud;
     CloudTestClient client(cloud, "sample");
     // Two empty lines of one name: the trace id check wants exactly one.
-    CloudReply r = client.Send("familyShare", "POST", "/rest.php",
-                               QuotaForm(client.Session().accessToken, kPhotoFilter, "10880002"), [](HeaderList& h) {
-                                   RemoveHeader(h, "x-zp-trace-id");
-                                   h.emplace_back("x-zp-trace-id", "");
-                                   h.emplace_back("x-zp-trace-id", "");
-                               });
+    CloudReply r =
+        client.Send("familyShare", "POST", "/rest.php",
+                    QuotaForm(client.Session().accessToken, kPhotoFilter, "10880002"), [](HeaderList& h) {
+                        RemoveHeader(h, "x-zp-trace-id");
+                        h.emplace_back("x-zp-trace-id", "");
+                        h.emplace_back("x-zp-trace-id", "");
+                    });
     EXPECT_EQ(r.status, 400) << r.body;
     EXPECT_EQ(LastEntry(cloud)["verdict"].asString(), "refused: x-zp-trace-id: expected exactly one");
 }
@@ -91,7 +94,8 @@ TEST(EmptyHeader, IdleKeepAliveConnectionDoesNotDelayTheStop)
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     ASSERT_EQ(::connect(sock, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
     const std::string request = "GET /_admin/ready HTTP/1.1\r\nHost: 127.0.0.1\r\n\r\n";
-    ASSERT_EQ(::send(sock, request.data(), request.size(), MSG_NOSIGNAL), static_cast<ssize_t>(request.size()));
+    ASSERT_EQ(::send(sock, request.data(), request.size(), MSG_NOSIGNAL),
+              static_cast<ssize_t>(request.size()));
     char reply[512];
     ASSERT_GT(::recv(sock, reply, sizeof reply, 0), 0);
 

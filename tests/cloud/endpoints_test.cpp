@@ -11,9 +11,8 @@
 namespace spacemgm_test {
 namespace {
 
-
 const std::map<std::string, std::pair<std::string, std::string>> kPimServices = {
-    {"contact", {"1000", "/Statistic/Contact"}}, {"notepad", {"1001", "/Statistic/Notepad"}},
+    {"contact", {"1000", "/Statistic/Contact"}},   {"notepad", {"1001", "/Statistic/Notepad"}},
     {"calendar", {"1002", "/Statistic/Calendar"}}, {"wlan", {"1004", "/Statistic/Wlan"}},
     {"browser", {"1005", "/Statistic/Browser"}},
 };
@@ -118,8 +117,9 @@ TEST_P(EveryEndpoint, KindQuotaAnswersOnlyVersion2Stores)
         std::string kinds;
         for (const auto& k : category["kinds"])
             kinds += (kinds.empty() ? "" : ",") + k.asString();
-        CloudReply r = client->QuotaQuery(
-            "collection=private and kind in [" + kinds + "] and (trashed=true or trashed=false)", service.first);
+        CloudReply r = client->QuotaQuery("collection=private and kind in [" + kinds +
+                                              "] and (trashed=true or trashed=false)",
+                                          service.first);
         ASSERT_EQ(r.status, 200) << name << ": " << r.body;
         ASSERT_EQ(r.json["quotaDetails"].size(), category["records"].size()) << name;
         int64_t used = 0;
@@ -170,7 +170,8 @@ TEST_P(EveryEndpoint, PhotoAboutAnswersTheAskedFields)
 {
     CloudReply r = client->Send(
         "cloudPhoto", "GET",
-        "/cloudPhoto/v1/about?fields=dataVersion,status,maxBatchNumber,maxFileUploadSize,maxThumbnailSize", "");
+        "/cloudPhoto/v1/about?fields=dataVersion,status,maxBatchNumber,maxFileUploadSize,maxThumbnailSize",
+        "");
     ASSERT_EQ(r.status, 200) << r.body;
     EXPECT_EQ(r.json["dataVersion"].asString(), fixture["about"]["dataVersion"].asString());
     EXPECT_EQ(r.json["status"], fixture["about"]["status"]);
@@ -253,8 +254,8 @@ TEST_P(EveryEndpoint, RecordingFoldersWalkedAsTheRecorderDoes)
         EXPECT_EQ(FileBytesUnder(root + "/"), 0);
         return;
     }
-    CloudReply attrs = client->Nsp("nsp.vfs.getattr",
-                                   {{"fields", ListText({"name", "space", "fileCount"})}, {"files", ListText(paths)}});
+    CloudReply attrs = client->Nsp("nsp.vfs.getattr", {{"fields", ListText({"name", "space", "fileCount"})},
+                                                       {"files", ListText(paths)}});
     ASSERT_EQ(attrs.status, 200) << attrs.body;
     int64_t space = 0, count = 0, want = 0, wantCount = 0;
     for (const auto& e : attrs.json["successList"]) {
@@ -305,8 +306,8 @@ TEST_P(EveryEndpoint, BlockedFilesListedWithTheirTypes)
 
 TEST_P(EveryEndpoint, NotepadFolderAttributes)
 {
-    CloudReply r = client->Nsp("nsp.vfs.getattr",
-                               {{"fields", ListText({"name", "space"})}, {"files", ListText({"/Sync/note"})}});
+    CloudReply r = client->Nsp(
+        "nsp.vfs.getattr", {{"fields", ListText({"name", "space"})}, {"files", ListText({"/Sync/note"})}});
     ASSERT_EQ(r.status, 200) << r.body;
     ASSERT_EQ(r.json["successList"].size(), 1u);
     EXPECT_EQ(std::stoll(r.json["successList"][0]["space"].asString()), FileBytesUnder("/Sync/note/"));
@@ -351,7 +352,8 @@ TEST_P(EveryEndpoint, ConfigurationFileDownload)
     EXPECT_EQ(config["cloud_space_usage"]["items"].size(), 5u);
 }
 
-INSTANTIATE_TEST_SUITE_P(Fixtures, EveryEndpoint, ::testing::Values("sample", "empty", "full", "v2", "many", "cn"));
+INSTANTIATE_TEST_SUITE_P(Fixtures, EveryEndpoint,
+                         ::testing::Values("sample", "empty", "full", "v2", "many", "cn"));
 
 TEST(FixtureShapes, SampleHasDataInEveryCategoryAndTwoBackupDevices)
 {

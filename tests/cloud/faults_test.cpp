@@ -54,7 +54,8 @@ CloudEmulator* Faults::cloud = nullptr;
 
 TEST_F(Faults, FixedLatencyDelaysTheReply)
 {
-    std::string id = cloud->AddFault(Rule(R"({"endpoint":"/family/rest.php","kind":"latency","latencyMs":300})"));
+    std::string id =
+        cloud->AddFault(Rule(R"({"endpoint":"/family/rest.php","kind":"latency","latencyMs":300})"));
     auto start = std::chrono::steady_clock::now();
     CloudReply r = Photo();
     auto elapsed = std::chrono::steady_clock::now() - start;
@@ -70,7 +71,8 @@ TEST_F(Faults, LatencyRangeStaysWithinItsBounds)
     for (int i = 0; i < 3; ++i) {
         auto start = std::chrono::steady_clock::now();
         Photo();
-        auto ms = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
+        auto ms =
+            std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start);
         EXPECT_GE(ms.count(), 100);
         EXPECT_LT(ms.count(), 1000);
     }
@@ -87,7 +89,8 @@ TEST_F(Faults, StatusCodeComesWithTheServiceErrorBody)
 TEST_F(Faults, StatusCodeWithAGivenBody)
 {
     cloud->AddFault(Rule(R"({"service":"cbs","kind":"status","status":429,"body":"{\"result\":429}"})"));
-    CloudReply r = client->Backup(ParseJsonText(R"({"cmd":36,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})"));
+    CloudReply r =
+        client->Backup(ParseJsonText(R"({"cmd":36,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})"));
     EXPECT_EQ(r.status, 429);
     EXPECT_EQ(r.body, "{\"result\":429}");
 }
@@ -216,7 +219,8 @@ TEST_F(Faults, ServiceRuleLeavesOtherServicesAlone)
 
 TEST_F(Faults, BodyMatchTargetsOneQueryOnASharedPath)
 {
-    cloud->AddFault(Rule(R"({"endpoint":"/family/rest.php","bodyContains":"collection%3ddrive","kind":"empty"})"));
+    cloud->AddFault(
+        Rule(R"({"endpoint":"/family/rest.php","bodyContains":"collection%3ddrive","kind":"empty"})"));
     EXPECT_EQ(client->QuotaQuery("collection=drive and (trashed=true)", "10781986").body, "");
     EXPECT_EQ(Photo().json["retCode"].asInt(), 0);
 }
@@ -247,8 +251,8 @@ TEST_F(Faults, RequestLogNamesTheFiredRule)
 
 TEST_F(Faults, BadRuleIsRefusedByTheAdminEndpoint)
 {
-    HttpResult r = HttpExchange("POST", cloud->Root() + "/_admin/faults", {{"Content-Type", "application/json"}},
-                                R"({"kind":"explode"})");
+    HttpResult r = HttpExchange("POST", cloud->Root() + "/_admin/faults",
+                                {{"Content-Type", "application/json"}}, R"({"kind":"explode"})");
     EXPECT_EQ(r.status, 400);
     EXPECT_NE(r.body.find("kind"), std::string::npos);
 }
@@ -264,7 +268,8 @@ TEST(FaultSources, RulesFromTheFaultsFile)
     {
         CloudEmulator cloud(options);
         CloudTestClient client(cloud, "sample");
-        CloudReply r = client.Backup(ParseJsonText(R"({"cmd":36,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})"));
+        CloudReply r = client.Backup(
+            ParseJsonText(R"({"cmd":36,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})"));
         EXPECT_EQ(r.body, "[]");
     }
     std::remove(path.c_str());
@@ -276,7 +281,8 @@ TEST(FaultSources, RulesFromTheFixture)
     char dir[] = "/tmp/spacemgm-cloud-fixture-XXXXXX";
     ASSERT_NE(mkdtemp(dir), nullptr);
     Json::Value fixture = ReadFixture("empty");
-    fixture["faults"] = ParseJsonText(R"([{"id":"fixture-rule","endpoint":"/pimds/Statistic/Wlan","kind":"notJson"}])");
+    fixture["faults"] =
+        ParseJsonText(R"([{"id":"fixture-rule","endpoint":"/pimds/Statistic/Wlan","kind":"notJson"}])");
     std::string path = std::string(dir) + "/faulty.json";
     std::ofstream(path) << CompactJson(fixture);
     CloudEmulator::Options options;

@@ -143,7 +143,8 @@ TEST(HostConfig, PointsEveryServiceAtTheEmulatorWithTheFixtureSession)
     EXPECT_EQ(config["session"]["country"], fixture["session"]["country"]);
     EXPECT_EQ(config["backup"]["generation"].asString(), "v3");
     ASSERT_EQ(config["backup"]["devices"].size(), fixture["backup"]["devices"].size());
-    EXPECT_EQ(config["backup"]["devices"][0]["deviceName"], fixture["backup"]["devices"][0]["device"]["devDisplayName"]);
+    EXPECT_EQ(config["backup"]["devices"][0]["deviceName"],
+              fixture["backup"]["devices"][0]["device"]["devDisplayName"]);
     EXPECT_EQ(config["network"]["mode"].asString(), "online");
     EXPECT_FALSE(config.isMember("caFile"));
 }
@@ -201,8 +202,8 @@ TEST(Binding, NotReachableFromAnotherAddress)
     freeifaddrs(list);
     if (other.empty())
         GTEST_SKIP() << "no address besides loopback on this machine";
-    HttpResult r = HttpExchange("GET", "http://" + other + ":" + std::to_string(cloud.Port()) + "/_admin/ready", {},
-                                "", "", 2000);
+    HttpResult r = HttpExchange(
+        "GET", "http://" + other + ":" + std::to_string(cloud.Port()) + "/_admin/ready", {}, "", "", 2000);
     EXPECT_NE(r.curlCode, 0) << "the emulator must listen on 127.0.0.1 only";
     EXPECT_EQ(HttpExchange("GET", cloud.Root() + "/_admin/ready", {}, "").status, 200);
 }

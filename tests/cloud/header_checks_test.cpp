@@ -22,7 +22,8 @@ Baseline BaselineFor(const std::string& service, const WireSession& s)
         return {"POST", "/rest.php",
                 QuotaForm(s.accessToken, "collection=photo and (trashed=true or trashed=false)", "10880002")};
     if (service == "nsp")
-        return {"POST", "", NspForm("nsp.vfs.queryFolder", s.accessToken, {{"paths", ListText({"/RecordBackup"})}})};
+        return {"POST", "",
+                NspForm("nsp.vfs.queryFolder", s.accessToken, {{"paths", ListText({"/RecordBackup"})}})};
     if (service == "cbs")
         return {"POST", "/CloudBackup/ClientServlet",
                 R"({"cmd":36,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})"};
@@ -30,8 +31,10 @@ Baseline BaselineFor(const std::string& service, const WireSession& s)
         return {"GET", "/Statistic/Contact", ""};
     if (service == "cloudSyncDrive")
         return {"GET", "/dataSync/v1/service/1000/about?fields=dataVersion,kinds,maxBatchNumber,status", ""};
-    return {"GET", "/cloudPhoto/v1/about?fields=dataVersion,status,maxBatchNumber,maxFileUploadSize,maxThumbnailSize",
-            ""};
+    return {
+        "GET",
+        "/cloudPhoto/v1/about?fields=dataVersion,status,maxBatchNumber,maxFileUploadSize,maxThumbnailSize",
+        ""};
 }
 
 // True when the body is the service's own error shape.
@@ -66,22 +69,25 @@ const std::vector<HeaderCase>& Cases()
 {
     static const std::vector<HeaderCase> cases = {
         {"FamilyShareWantsBearerNotComposite", "familyShare",
-         [](HeaderList& h, const WireSession& s) { SetHeader(h, "Authorization", CompositeAuthorization(s)); }, 401,
-         "Authorization"},
+         [](HeaderList& h, const WireSession& s) {
+             SetHeader(h, "Authorization", CompositeAuthorization(s));
+         },
+         401, "Authorization"},
         {"FamilyShareBearerTokenIsNotEncoded", "familyShare",
          [](HeaderList& h, const WireSession& s) {
              SetHeader(h, "Authorization", "Bearer " + ClientUrlEncode(s.accessToken));
          },
          401, "Authorization"},
-        {"FamilyShareMissingTraceId", "familyShare", [](HeaderList& h, const WireSession&) { RemoveHeader(h, "x-zp-trace-id"); },
-         400, "x-zp-trace-id"},
+        {"FamilyShareMissingTraceId", "familyShare",
+         [](HeaderList& h, const WireSession&) { RemoveHeader(h, "x-zp-trace-id"); }, 400, "x-zp-trace-id"},
         {"FamilyShareTraceIdOfAnotherRow", "familyShare",
          [](HeaderList& h, const WireSession&) { SetHeader(h, "x-zp-trace-id", MakeTraceId("05002")); }, 400,
          "x-zp-trace-id"},
         {"FamilyShareVersionOfPimds", "familyShare",
          [](HeaderList& h, const WireSession&) { SetHeader(h, "version", "11.2.4.301"); }, 400, "version"},
         {"FamilyShareWithoutAppVersion", "familyShare",
-         [](HeaderList& h, const WireSession&) { RemoveHeader(h, "x-zp-app-version"); }, 400, "x-zp-app-version"},
+         [](HeaderList& h, const WireSession&) { RemoveHeader(h, "x-zp-app-version"); }, 400,
+         "x-zp-app-version"},
         {"FamilyShareFormContentType", "familyShare",
          [](HeaderList& h, const WireSession&) {
              SetHeader(h, "Content-Type", "application/x-www-form-urlencoded");
@@ -89,13 +95,14 @@ const std::vector<HeaderCase>& Cases()
          400, "Content-Type"},
         {"FamilyShareWithEncversion", "familyShare",
          [](HeaderList& h, const WireSession&) { SetHeader(h, "encversion", "1"); }, 400, "encversion"},
-        {"CommonKeepAliveMissing", "familyShare", [](HeaderList& h, const WireSession&) { RemoveHeader(h, "Keep-alive"); },
-         400, "Keep-alive"},
+        {"CommonKeepAliveMissing", "familyShare",
+         [](HeaderList& h, const WireSession&) { RemoveHeader(h, "Keep-alive"); }, 400, "Keep-alive"},
         {"CommonAuthTypeWrong", "familyShare",
-         [](HeaderList& h, const WireSession&) { SetHeader(h, "AuthType", Base64Of("com.zephra.cloud")); }, 400,
-         "AuthType"},
+         [](HeaderList& h, const WireSession&) { SetHeader(h, "AuthType", Base64Of("com.zephra.cloud")); },
+         400, "AuthType"},
         {"CommonUserAgentWrong", "familyShare",
-         [](HeaderList& h, const WireSession&) { SetHeader(h, "User-Agent", "curl/7.88"); }, 400, "User-Agent"},
+         [](HeaderList& h, const WireSession&) { SetHeader(h, "User-Agent", "curl/7.88"); }, 400,
+         "User-Agent"},
         {"CommonCountryNotLowerCased", "familyShare",
          [](HeaderList& h, const WireSession& s) { SetHeader(h, "x-zp-country-code", s.country); }, 400,
          "x-zp-country-code"},
@@ -108,8 +115,10 @@ const std::vector<HeaderCase>& Cases()
          [](HeaderList& h, const WireSession&) { h.emplace_back("x-zp-device-name", "second"); }, 400,
          "x-zp-device-name"},
         {"NspWantsCompositeNotBearer", "nsp",
-         [](HeaderList& h, const WireSession& s) { SetHeader(h, "Authorization", "Bearer " + s.accessToken); }, 401,
-         "Authorization"},
+         [](HeaderList& h, const WireSession& s) {
+             SetHeader(h, "Authorization", "Bearer " + s.accessToken);
+         },
+         401, "Authorization"},
         {"NspCompositeWithRawToken", "nsp",
          [](HeaderList& h, const WireSession& s) {
              SetHeader(h, "Authorization",
@@ -118,12 +127,13 @@ const std::vector<HeaderCase>& Cases()
          401, "Authorization"},
         {"NspCompositeWithOneColon", "nsp",
          [](HeaderList& h, const WireSession& s) {
-             SetHeader(h, "Authorization",
-                       Base64Of("6:" + s.deviceUuid + ":com.zephra.cloud.pc:" + ClientUrlEncode(s.accessToken)));
+             SetHeader(
+                 h, "Authorization",
+                 Base64Of("6:" + s.deviceUuid + ":com.zephra.cloud.pc:" + ClientUrlEncode(s.accessToken)));
          },
          401, "Authorization"},
-        {"NspWithVersionHeader", "nsp", [](HeaderList& h, const WireSession&) { SetHeader(h, "version", "1122300"); },
-         400, "version"},
+        {"NspWithVersionHeader", "nsp",
+         [](HeaderList& h, const WireSession&) { SetHeader(h, "version", "1122300"); }, 400, "version"},
         {"NspTraceCodeOfQuota", "nsp",
          [](HeaderList& h, const WireSession&) { SetHeader(h, "x-zp-trace-id", MakeTraceId("10004")); }, 400,
          "x-zp-trace-id"},
@@ -132,34 +142,39 @@ const std::vector<HeaderCase>& Cases()
              SetHeader(h, "Content-Type", "application/x-www-form-urlencoded");
          },
          400, "Content-Type"},
-        {"CbsEncversionNotZero", "cbs", [](HeaderList& h, const WireSession&) { SetHeader(h, "encversion", "1"); }, 400,
-         "encversion"},
+        {"CbsEncversionNotZero", "cbs",
+         [](HeaderList& h, const WireSession&) { SetHeader(h, "encversion", "1"); }, 400, "encversion"},
         {"CbsWithoutBackupVersion", "cbs",
          [](HeaderList& h, const WireSession&) { RemoveHeader(h, "x-zp-backup-version"); }, 400,
          "x-zp-backup-version"},
-        {"CbsVersionOfPimds", "cbs", [](HeaderList& h, const WireSession&) { SetHeader(h, "version", "11.2.4.301"); },
-         400, "version"},
+        {"CbsVersionOfPimds", "cbs",
+         [](HeaderList& h, const WireSession&) { SetHeader(h, "version", "11.2.4.301"); }, 400, "version"},
         {"CbsMalformedTraceId", "cbs",
-         [](HeaderList& h, const WireSession&) { SetHeader(h, "x-zp-trace-id", "10004_12_1700000000_12345678"); },
+         [](HeaderList& h, const WireSession&) {
+             SetHeader(h, "x-zp-trace-id", "10004_12_1700000000_12345678");
+         },
          400, "x-zp-trace-id"},
         {"PimdsEncversionOfChinaOutsideChina", "pimds",
          [](HeaderList& h, const WireSession&) { SetHeader(h, "encversion", "0"); }, 400, "encversion"},
-        {"PimdsVersionOfCbs", "pimds", [](HeaderList& h, const WireSession&) { SetHeader(h, "version", "1122300"); },
-         400, "version"},
+        {"PimdsVersionOfCbs", "pimds",
+         [](HeaderList& h, const WireSession&) { SetHeader(h, "version", "1122300"); }, 400, "version"},
         {"PimdsWithAppVersion", "pimds",
          [](HeaderList& h, const WireSession&) { SetHeader(h, "x-zp-app-version", "1122300"); }, 400,
          "x-zp-app-version"},
         {"SyncDriveWithoutAuthorization", "cloudSyncDrive",
          [](HeaderList& h, const WireSession&) { RemoveHeader(h, "Authorization"); }, 401, "Authorization"},
         {"SyncDriveEmptyBearer", "cloudSyncDrive",
-         [](HeaderList& h, const WireSession&) { SetHeader(h, "Authorization", "Bearer "); }, 401, "Authorization"},
+         [](HeaderList& h, const WireSession&) { SetHeader(h, "Authorization", "Bearer "); }, 401,
+         "Authorization"},
         {"PhotoAboutOsBrandIsWindows", "cloudPhoto",
-         [](HeaderList& h, const WireSession&) { SetHeader(h, "x-zp-os-brand", "Linux"); }, 400, "x-zp-os-brand"},
+         [](HeaderList& h, const WireSession&) { SetHeader(h, "x-zp-os-brand", "Linux"); }, 400,
+         "x-zp-os-brand"},
         {"PhotoAboutTraceCodeOfItsRow", "cloudPhoto",
          [](HeaderList& h, const WireSession&) { SetHeader(h, "x-zp-trace-id", MakeTraceId("04101")); }, 400,
          "x-zp-trace-id"},
         {"PhotoAboutWithoutClientType", "cloudPhoto",
-         [](HeaderList& h, const WireSession&) { SetHeader(h, "client-type", "pcClient"); }, 400, "client-type"},
+         [](HeaderList& h, const WireSession&) { SetHeader(h, "client-type", "pcClient"); }, 400,
+         "client-type"},
     };
     return cases;
 }
@@ -201,7 +216,8 @@ TEST_P(HeaderCheck, OneWrongHeaderIsRefused)
     const std::string verdict = log[0]["verdict"].asString();
     EXPECT_EQ(verdict.rfind("refused: ", 0), 0u) << verdict;
     EXPECT_NE(verdict.find(c.verdictMentions), std::string::npos) << verdict;
-    EXPECT_EQ(verdict.find(client.Session().accessToken), std::string::npos) << "the token stays out of the log";
+    EXPECT_EQ(verdict.find(client.Session().accessToken), std::string::npos)
+        << "the token stays out of the log";
 }
 
 INSTANTIATE_TEST_SUITE_P(Headers, HeaderCheck, ::testing::ValuesIn(Cases()),
@@ -244,9 +260,10 @@ TEST(BodyCheck, QuotaFormWithSnakeCaseTokenKeyIsRefused)
 {
     CloudEmulator cloud;
     CloudTestClient client(cloud, "sample");
-    std::string form = "nsp_svc=nsp.user.getQuotaUsedInfo&access_token=" + ClientUrlEncode(client.Session().accessToken) +
-                       "&q=" + ClientUrlEncode("collection=photo and (trashed=true or trashed=false)") +
-                       "&serviceType=10880002";
+    std::string form =
+        "nsp_svc=nsp.user.getQuotaUsedInfo&access_token=" + ClientUrlEncode(client.Session().accessToken) +
+        "&q=" + ClientUrlEncode("collection=photo and (trashed=true or trashed=false)") +
+        "&serviceType=10880002";
     CloudReply r = client.Send("familyShare", "POST", "/rest.php", form);
     EXPECT_EQ(r.status, 400);
     EXPECT_NE(r.json["retMsg"].asString().find("accessToken"), std::string::npos) << r.body;
@@ -256,7 +273,8 @@ TEST(BodyCheck, CountQueryWithLowerCaseCallLogIsRefused)
 {
     CloudEmulator cloud;
     CloudTestClient client(cloud, "sample");
-    CloudReply r = client.Backup(ParseJsonText(R"({"cmd":9,"info":"CountByDeviceReq","type":"calllog","deviceList":[]})"));
+    CloudReply r = client.Backup(
+        ParseJsonText(R"({"cmd":9,"info":"CountByDeviceReq","type":"calllog","deviceList":[]})"));
     EXPECT_EQ(r.status, 400);
     EXPECT_NE(r.json["result"].asInt(), 0);
 }

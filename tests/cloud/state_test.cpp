@@ -35,11 +35,13 @@ TEST(Deletion, DeviceBackupDisappearsFromListQuotaAndAccount)
     ASSERT_EQ(del.status, 200) << del.body;
     EXPECT_EQ(del.json["result"].asInt(), 0);
 
-    CloudReply all = client.Backup(Cmd(R"({"cmd":36,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})"));
+    CloudReply all =
+        client.Backup(Cmd(R"({"cmd":36,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})"));
     for (const auto& rec : all.json["backupRecords"])
         EXPECT_NE(rec["device"]["deviceId"].asString(), "dev-0001");
     EXPECT_EQ(all.json["backupRecords"].size(), 1u);
-    CloudReply quota = client.QuotaQuery("collection=private and deviceId in [bk-0001-a1f3,bk-0002-a1f3]", "2000");
+    CloudReply quota =
+        client.QuotaQuery("collection=private and deviceId in [bk-0001-a1f3,bk-0002-a1f3]", "2000");
     ASSERT_EQ(quota.json["quotaDetails"].size(), 1u);
     EXPECT_EQ(quota.json["quotaDetails"][0]["deviceId"].asString(), "bk-0002-a1f3");
     EXPECT_EQ(before - BackupGroup(cloud), 28LL * 1024 * 1024 * 1024);
@@ -80,9 +82,10 @@ TEST(Deletion, RemovedFileGoneMissingFileInFailList)
     CloudTestClient client(cloud, "sample");
     const std::string folder = "/BlockedBackup/Nuvo P60 Pro";
     const std::string file = folder + "/PhoneManager_intercept_0.db";
-    CloudReply r = client.Nsp("nsp.vfs.rmfile",
-                              {{"files", ListText({file, folder + "/nothing.db", folder + "/PhoneManager_cache"})},
-                               {"reserve", "False"}});
+    CloudReply r =
+        client.Nsp("nsp.vfs.rmfile",
+                   {{"files", ListText({file, folder + "/nothing.db", folder + "/PhoneManager_cache"})},
+                    {"reserve", "False"}});
     ASSERT_EQ(r.status, 200) << r.body;
     ASSERT_EQ(r.json["successList"].size(), 1u);
     EXPECT_EQ(r.json["successList"][0]["name"].asString(), file);
@@ -97,7 +100,8 @@ TEST(Deletion, ResetRestoresTheFixture)
     CloudEmulator cloud;
     CloudTestClient client(cloud, "sample");
     const int64_t before = BackupGroup(cloud);
-    client.Backup(Cmd(R"({"cmd":27,"info":"DeleteDeviceBackupRecordReq","deviceId":"dev-0002","deviceType":2})"));
+    client.Backup(
+        Cmd(R"({"cmd":27,"info":"DeleteDeviceBackupRecordReq","deviceId":"dev-0002","deviceType":2})"));
     EXPECT_LT(BackupGroup(cloud), before);
     cloud.Reset();
     EXPECT_EQ(BackupGroup(cloud), before);
@@ -130,14 +134,16 @@ TEST_F(StateFile, DeletionSurvivesARestart)
     {
         CloudEmulator cloud(options);
         CloudTestClient client(cloud, "sample");
-        client.Backup(Cmd(R"({"cmd":27,"info":"DeleteDeviceBackupRecordReq","deviceId":"dev-0001","deviceType":1})"));
+        client.Backup(
+            Cmd(R"({"cmd":27,"info":"DeleteDeviceBackupRecordReq","deviceId":"dev-0001","deviceType":1})"));
         after = BackupGroup(cloud);
         EXPECT_EQ(cloud.Stop(), 0) << "SIGTERM ends the emulator cleanly";
     }
     CloudEmulator again(options);
     EXPECT_EQ(BackupGroup(again), after);
     CloudTestClient client(again, "sample");
-    CloudReply all = client.Backup(Cmd(R"({"cmd":36,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})"));
+    CloudReply all =
+        client.Backup(Cmd(R"({"cmd":36,"info":"QueryAllDevicesBackupRecordReq","version":"V3"})"));
     EXPECT_EQ(all.json["backupRecords"].size(), 1u);
 }
 

@@ -42,7 +42,8 @@ TEST(AttributeKeys, InterfaceKeyWithoutSemicolonFindsNothing)
     EXPECT_EQ(FindAttribute<InterfaceDescriptionType>(kCbsType0, "InterfaceDescriptionType"), nullptr);
     EXPECT_EQ(kCbsType0.attributes.size(), before) << "a reader must never insert";
 
-    const auto withSemicolon = FindAttribute<InterfaceDescriptionType>(kCbsType0, "InterfaceDescriptionType;");
+    const auto withSemicolon =
+        FindAttribute<InterfaceDescriptionType>(kCbsType0, "InterfaceDescriptionType;");
     ASSERT_NE(withSemicolon, nullptr);
     EXPECT_EQ(withSemicolon->path, "/CloudBackup/ClientServlet");
 }
@@ -59,7 +60,8 @@ TEST(Construction, DefaultTakesTheNextAutomaticId)
 TEST(Construction, AttributeListTakesTheNextAutomaticId)
 {
     const PimdsType anchor(40);
-    const PimdsType next({DescriptionEntry("x"), {"InterfaceDescriptionType;", std::make_shared<InterfaceDescriptionType>("/p")}});
+    const PimdsType next({DescriptionEntry("x"),
+                          {"InterfaceDescriptionType;", std::make_shared<InterfaceDescriptionType>("/p")}});
     EXPECT_EQ(next.id, 41);
     EXPECT_EQ(next.attributes.size(), 2u);
     EXPECT_EQ(GetInterfacePathOf(next), "/p");
@@ -80,7 +82,9 @@ TEST(Construction, ExplicitIdMovesTheCounterEvenBackwards)
 TEST(Construction, LogCodeWithCommandConsumesTwoIds)
 {
     const UpLogType anchor(100);
-    const UpLogType withCommand({DescriptionEntry("d"), {"AnyBaseCmdTypeAttribute", std::make_shared<AnyBaseCmdType>(kAnyBaseCmd2116)}});
+    const UpLogType withCommand(
+        {DescriptionEntry("d"),
+         {"AnyBaseCmdTypeAttribute", std::make_shared<AnyBaseCmdType>(kAnyBaseCmd2116)}});
     EXPECT_EQ(withCommand.id, 102);
     const UpLogType plain({DescriptionEntry("e")});
     EXPECT_EQ(plain.id, 103);
@@ -162,7 +166,8 @@ TEST(Readers, MissingKeyAndWrongClassReadTheSame)
 {
     EXPECT_EQ(GetInterfacePathOf(kNspRequestType0), "");
 
-    const CbsType wrongClass(1, {{"InterfaceDescriptionType;", std::make_shared<Description>("/not/a/path")}});
+    const CbsType wrongClass(1,
+                             {{"InterfaceDescriptionType;", std::make_shared<Description>("/not/a/path")}});
     EXPECT_EQ(GetInterfacePathOf(wrongClass), "");
     EXPECT_EQ(FindAttribute<InterfaceDescriptionType>(wrongClass, "InterfaceDescriptionType;"), nullptr);
     EXPECT_EQ(wrongClass.attributes.size(), 1u);
@@ -208,14 +213,16 @@ TEST(TraceId, CodeZeroGivesNoTraceId)
 
 TEST(TraceId, CommandAttributeCountsOnlyOnLogCodes)
 {
-    const CbsType notALogCode(7, {{"AnyBaseCmdTypeAttribute", std::make_shared<AnyBaseCmdType>(kAnyBaseCmd2116)}});
+    const CbsType notALogCode(
+        7, {{"AnyBaseCmdTypeAttribute", std::make_shared<AnyBaseCmdType>(kAnyBaseCmd2116)}});
     EXPECT_EQ(TraceCode(MakeTraceId(notALogCode)), "00007");
 }
 
 TEST(TraceId, EventWithoutCommandTakesItsOwnId)
 {
     const OperateSpecialEventType noCommand(
-        42, {{"OperateEventAttribute", std::make_shared<OperateEventAttribute>("t", nullptr, "", nullptr, "", "")}});
+        42, {{"OperateEventAttribute",
+              std::make_shared<OperateEventAttribute>("t", nullptr, "", nullptr, "", "")}});
     EXPECT_EQ(TraceCode(MakeTraceId(noCommand)), "00042");
 }
 

@@ -18,8 +18,8 @@ struct ExpectedCommand
 struct ExpectedLogCode
 {
     int32_t id;
-    const char* text; // nullptr: the row has no attributes at all
-    int32_t command;  // kNoRow: no "AnyBaseCmdTypeAttribute"
+    const char* text;      // nullptr: the row has no attributes at all
+    int32_t command;       // kNoRow: no "AnyBaseCmdTypeAttribute"
     const char* traceCode; // "": MakeTraceId gives an empty string
 };
 

@@ -13,8 +13,7 @@ namespace {
 
 // Compares every event of enumeration E, in definition order, with the
 // published table: id, text, command, page, linked event, target and sub page.
-template <class E>
-void ExpectEventTable(const char* table, const std::vector<ExpectedEvent>& expected)
+template <class E> void ExpectEventTable(const char* table, const std::vector<ExpectedEvent>& expected)
 {
     const std::vector<const E*>& rows = EnumRows<E>();
     ASSERT_EQ(rows.size(), expected.size()) << table;
@@ -66,7 +65,8 @@ TEST(OperationEvents, FileTranslateEventRowsMatch)
 
 TEST(OperationEvents, SwitchPageEventRowsMatch)
 {
-    ExpectEventTable<OperateSwitchPageEventType>("OperateSwitchPageEventType", kExpectedOperateSwitchPageEventType);
+    ExpectEventTable<OperateSwitchPageEventType>("OperateSwitchPageEventType",
+                                                 kExpectedOperateSwitchPageEventType);
 }
 
 TEST(OperationEvents, SwitchModuleEventRowsMatch)
@@ -82,9 +82,10 @@ TEST(OperationEvents, SpecialEventRowsMatch)
 
 TEST(OperationEvents, FiveTablesHold206Rows)
 {
-    const size_t total = EnumRows<OperateBasicEventType>().size() + EnumRows<OperateFileTranslateEventType>().size() +
-                         EnumRows<OperateSwitchPageEventType>().size() +
-                         EnumRows<OperateSwitchModuleEventType>().size() + EnumRows<OperateSpecialEventType>().size();
+    const size_t total =
+        EnumRows<OperateBasicEventType>().size() + EnumRows<OperateFileTranslateEventType>().size() +
+        EnumRows<OperateSwitchPageEventType>().size() + EnumRows<OperateSwitchModuleEventType>().size() +
+        EnumRows<OperateSpecialEventType>().size();
     EXPECT_EQ(total, 206u);
     EXPECT_EQ(EnumRows<OperateBasicEventType>().size(), 124u);
 }
@@ -124,8 +125,10 @@ TEST(OperationEvents, LastRowOfTheFiveTablesHasId204)
 
 TEST(OperationEvents, TwoConfirmSwitchAccountRowsAreDifferentEvents)
 {
-    const auto first = FindAttribute<OperateEventAttribute>(kOperateBasicEventType101, "OperateEventAttribute");
-    const auto second = FindAttribute<OperateEventAttribute>(kOperateBasicEventType103, "OperateEventAttribute");
+    const auto first =
+        FindAttribute<OperateEventAttribute>(kOperateBasicEventType101, "OperateEventAttribute");
+    const auto second =
+        FindAttribute<OperateEventAttribute>(kOperateBasicEventType103, "OperateEventAttribute");
     ASSERT_NE(first, nullptr);
     ASSERT_NE(second, nullptr);
     EXPECT_EQ(first->description, Utf8ToGbk("确认切换账号"));
@@ -138,16 +141,19 @@ TEST(OperationEvents, TraceIdCarriesTheCommandOfTheEvent)
 {
     const int64_t before = NowSeconds();
     EXPECT_TRUE(IsTraceIdWithCode(MakeTraceId(kOperateBasicEventType0), "10203", before, NowSeconds()));
-    EXPECT_TRUE(IsTraceIdWithCode(MakeTraceId(kOperateSwitchModuleEventType189), "11401", before, NowSeconds()));
+    EXPECT_TRUE(
+        IsTraceIdWithCode(MakeTraceId(kOperateSwitchModuleEventType189), "11401", before, NowSeconds()));
     EXPECT_TRUE(IsTraceIdWithCode(MakeTraceId(kOperateBasicEventType43), "02114", before, NowSeconds()));
 }
 
 TEST(OperationEvents, ClosingEventsPointToTheEventThatOpened)
 {
-    const auto leaveSpace = FindAttribute<OperateEventAttribute>(kOperateSwitchModuleEventType189, "OperateEventAttribute");
+    const auto leaveSpace =
+        FindAttribute<OperateEventAttribute>(kOperateSwitchModuleEventType189, "OperateEventAttribute");
     ASSERT_NE(leaveSpace, nullptr);
     EXPECT_EQ(leaveSpace->linkedEvent, &kOperateBasicEventType69);
-    const auto closeUpload = FindAttribute<OperateEventAttribute>(kOperateSwitchModuleEventType178, "OperateEventAttribute");
+    const auto closeUpload =
+        FindAttribute<OperateEventAttribute>(kOperateSwitchModuleEventType178, "OperateEventAttribute");
     ASSERT_NE(closeUpload, nullptr);
     EXPECT_EQ(closeUpload->linkedEvent, nullptr);
 }

@@ -18,8 +18,7 @@ std::string RowName(const char* table, int32_t id)
 
 // Compares every row of request enumeration E, in definition order, with the
 // published table: id, path or its absence, log row and trace code.
-template <class E>
-void ExpectRequestTable(const char* table, const std::vector<ExpectedRequest>& expected)
+template <class E> void ExpectRequestTable(const char* table, const std::vector<ExpectedRequest>& expected)
 {
     const std::vector<const E*>& rows = EnumRows<E>();
     ASSERT_EQ(rows.size(), expected.size()) << table;
@@ -158,7 +157,8 @@ TEST(RequestCatalogue, FamilyShareTypeRowsMatch)
 
 TEST(RequestCatalogue, CloudPhotoV2InterfaceTypeRowsMatch)
 {
-    ExpectRequestTable<CloudPhotoV2InterfaceType>("CloudPhotoV2InterfaceType", kExpectedCloudPhotoV2InterfaceType);
+    ExpectRequestTable<CloudPhotoV2InterfaceType>("CloudPhotoV2InterfaceType",
+                                                  kExpectedCloudPhotoV2InterfaceType);
 }
 
 TEST(RequestCatalogue, CloudPhotoInterfaceTypeRowsMatch)

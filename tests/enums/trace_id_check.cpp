@@ -25,8 +25,8 @@ bool AllDigits(const std::string& text)
 
 } // namespace
 
-::testing::AssertionResult IsTraceIdWithCode(const std::string& traceId, const std::string& code, int64_t notBefore,
-                                             int64_t notAfter)
+::testing::AssertionResult IsTraceIdWithCode(const std::string& traceId, const std::string& code,
+                                             int64_t notBefore, int64_t notAfter)
 {
     if (code.empty()) {
         if (traceId.empty()) {
@@ -36,7 +36,8 @@ bool AllDigits(const std::string& text)
     }
     const std::string head = code + "_11_";
     if (traceId.compare(0, head.size(), head) != 0) {
-        return ::testing::AssertionFailure() << "\"" << traceId << "\" does not start with \"" << head << "\"";
+        return ::testing::AssertionFailure()
+               << "\"" << traceId << "\" does not start with \"" << head << "\"";
     }
     const size_t lastSeparator = traceId.rfind('_');
     if (lastSeparator < head.size()) {
@@ -49,8 +50,8 @@ bool AllDigits(const std::string& text)
     }
     const int64_t value = std::stoll(seconds);
     if (value < notBefore || value > notAfter) {
-        return ::testing::AssertionFailure() << "time " << value << " is outside [" << notBefore << ", "
-                                             << notAfter << "]";
+        return ::testing::AssertionFailure()
+               << "time " << value << " is outside [" << notBefore << ", " << notAfter << "]";
     }
     if (digits.size() != 8 || !AllDigits(digits)) {
         return ::testing::AssertionFailure() << "random field \"" << digits << "\" is not eight digits";

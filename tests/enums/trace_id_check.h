@@ -12,5 +12,5 @@ int64_t NowSeconds();
 // Passes when `traceId` starts with the five-character `code`, carries the
 // fixed "11", a time between `notBefore` and `notAfter`, and eight digits.
 // An expected code of "" means the identifier itself must be empty.
-::testing::AssertionResult IsTraceIdWithCode(const std::string& traceId, const std::string& code, int64_t notBefore,
-                                             int64_t notAfter);
+::testing::AssertionResult IsTraceIdWithCode(const std::string& traceId, const std::string& code,
+                                             int64_t notBefore, int64_t notAfter);

@@ -221,13 +221,15 @@ TEST(HostConfig, UnknownNetworkModeIsRefused)
     TempFolder folder;
     const auto file = folder.Write("mode.json", R"({"network": {"mode": "sometimes"}})");
     EXPECT_EQ(ErrorOf(file.string()),
-              file.string() + ": \"network.mode\" must be one of \"system\", \"online\", \"offline\", \"file\"");
+              file.string() +
+                  ": \"network.mode\" must be one of \"system\", \"online\", \"offline\", \"file\"");
 }
 
 TEST(HostConfigPath, CommandLineWinsOverEverything)
 {
     EnvScope env("SPACEMGM_CONFIG", "/from/env.json");
-    EXPECT_EQ(host::ResolveHostConfigPath(std::string("/from/cli.json")), std::optional<std::string>("/from/cli.json"));
+    EXPECT_EQ(host::ResolveHostConfigPath(std::string("/from/cli.json")),
+              std::optional<std::string>("/from/cli.json"));
 }
 
 TEST(HostConfigPath, EnvironmentBeforeTheUserConfigFolder)

@@ -121,7 +121,8 @@ TEST(FileLogger, WideMessageIsWrittenAsUtf8)
 {
     LogFolderScope logs;
     Logger::Output(7, 2, 5, "A::B", std::wstring(L"\u4e91\u7a7a\u95f4"), true);
-    EXPECT_NE(logs.Read("subSpaceManage_INFO.log").find("\xE4\xBA\x91\xE7\xA9\xBA\xE9\x97\xB4"), std::string::npos);
+    EXPECT_NE(logs.Read("subSpaceManage_INFO.log").find("\xE4\xBA\x91\xE7\xA9\xBA\xE9\x97\xB4"),
+              std::string::npos);
 }
 
 TEST(FileLogger, ConcurrentLinesStayWhole)
@@ -131,8 +132,8 @@ TEST(FileLogger, ConcurrentLinesStayWhole)
     for (int t = 0; t < 4; ++t) {
         threads.emplace_back([t] {
             for (int i = 0; i < 200; ++i) {
-                Logger::Output(7, 2, i, "Worker::Run", "thread " + std::to_string(t) + " line " + std::to_string(i),
-                               false);
+                Logger::Output(7, 2, i, "Worker::Run",
+                               "thread " + std::to_string(t) + " line " + std::to_string(i), false);
             }
         });
     }

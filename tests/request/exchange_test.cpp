@@ -175,8 +175,9 @@ TEST_F(ExchangeTest, ExchangeRecordReceivesTheTraceId)
 
 TEST(RequestTimeout, QuotaUrlStillRunsWith100)
 {
-    EXPECT_EQ(RequestTimeoutFor("http://127.0.0.1:1/user/v1/getQuotaInfo?attrs=quota.summary&attrs=quota.details"),
-              100);
+    EXPECT_EQ(
+        RequestTimeoutFor("http://127.0.0.1:1/user/v1/getQuotaInfo?attrs=quota.summary&attrs=quota.details"),
+        100);
     EXPECT_EQ(RequestTimeoutFor("http://127.0.0.1:1/Statistic/Contact"), 100);
 }
 
@@ -185,7 +186,8 @@ TEST(RequestTimeout, TestMatchesOnlyWhenTheLastSetCharacterSitsWhereThePathWould
     // 62 characters of path; a URL whose only character from the set is its
     // first one, with 61 characters of filler not in the set, passes the test.
     const std::string path = "/user/v1/getQuotaInfo?attrs=quota.summary&attrs=quota.details";
-    EXPECT_EQ(RequestTimeoutFor("/" + std::string(path.size() - 1, 'Z') + std::string(path.size() - 1, 'Z')), 100);
+    EXPECT_EQ(RequestTimeoutFor("/" + std::string(path.size() - 1, 'Z') + std::string(path.size() - 1, 'Z')),
+              100);
     EXPECT_EQ(RequestTimeoutFor(std::string(path.size() - 1, 'Z') + "/" + std::string(path.size() - 1, 'Z')),
               30000);
 }

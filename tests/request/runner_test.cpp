@@ -74,7 +74,8 @@ TEST_F(RunnerTest, FinishedTextToNspIsLostAndAnEmptyBodyGoesOut)
 TEST_F(RunnerTest, QuotaFormGoesOutAsFinishedTextOnTheFamilyShareRow)
 {
     const std::string form = ToFormText(MakePhotoQuotaQuery("tok"));
-    RunRequest<GetQuotaUsedInfoResponse>(FindEnumRow<FamilyShareType>(2), std::make_shared<PostableString>(form));
+    RunRequest<GetQuotaUsedInfoResponse>(FindEnumRow<FamilyShareType>(2),
+                                         std::make_shared<PostableString>(form));
     EXPECT_EQ(server.Last().method, "POST");
     EXPECT_EQ(server.Last().path, "/family/rest.php");
     EXPECT_EQ(server.Last().body, form);
@@ -102,8 +103,9 @@ TEST(QuotaQueries, DeviceQueryKeepsTheCaseOfTheDeviceList)
 TEST(QuotaQueries, FormTextEncodesEveryValueAndSpellsAccessToken)
 {
     QuotaUsedQuery query = MakeDriveQuotaQuery("a b");
-    EXPECT_EQ(ToFormText(query), "nsp_svc=nsp.user.getQuotaUsedInfo&accessToken=a%20b&q=collection%3ddrive%20and%20"
-                                 "%28trashed%3dtrue%29&serviceType=10781986");
+    EXPECT_EQ(ToFormText(query),
+              "nsp_svc=nsp.user.getQuotaUsedInfo&accessToken=a%20b&q=collection%3ddrive%20and%20"
+              "%28trashed%3dtrue%29&serviceType=10781986");
 }
 
 TEST_F(RunnerTest, CloudPhoto803ChangesNothing)
@@ -134,13 +136,15 @@ TEST(ThrottleStamp, HookStampsOnlyA803AfterTheRetryWindow)
 
 TEST_F(RunnerTest, AboutQueryAsksTheV2PathWithTheFieldsQueryAndABearerToken)
 {
-    server.Reply({200, "{\"dataVersion\":\"v2.0\",\"maxFileUploadSize\":\"1024\",\"status\":{\"v2cut\":0}}", {}, {}});
+    server.Reply(
+        {200, "{\"dataVersion\":\"v2.0\",\"maxFileUploadSize\":\"1024\",\"status\":{\"v2cut\":0}}", {}, {}});
     std::map<std::string, std::string> status;
     EXPECT_EQ(GetAboutInfo(status), "v2.0");
     const CapturedRequest request = server.Last();
     EXPECT_EQ(request.method, "GET");
     EXPECT_EQ(request.target,
-              "/photo/cloudPhoto/v1/about?fields=dataVersion,status,maxBatchNumber,maxFileUploadSize,maxThumbnailSize");
+              "/photo/cloudPhoto/v1/"
+              "about?fields=dataVersion,status,maxBatchNumber,maxFileUploadSize,maxThumbnailSize");
     EXPECT_EQ(request.Header("Authorization"), "Bearer token+with/slash");
     EXPECT_EQ(request.Header("x-zp-os-brand"), "Windows");
     EXPECT_EQ(request.Header("version"), "11.2.4.301");

@@ -10,9 +10,9 @@
 namespace {
 
 const char kAbsent[] = "<absent>";
-const char kAuth[] = "AUTH";    // BuildAuthorization with the client's id
-const char kTrace[] = "TRACE";  // the request's own trace id
-const char kAny[] = "ANY";      // present, value checked elsewhere
+const char kAuth[] = "AUTH";   // BuildAuthorization with the client's id
+const char kTrace[] = "TRACE"; // the request's own trace id
+const char kAny[] = "ANY";     // present, value checked elsewhere
 
 struct ServiceRow
 {
@@ -23,8 +23,7 @@ struct ServiceRow
     std::map<std::string, std::string> expected;
 };
 
-template <class E, int Id>
-const AdvancedIntEnumType* Row()
+template <class E, int Id> const AdvancedIntEnumType* Row()
 {
     return FindEnumRow<E>(Id);
 }
@@ -37,39 +36,106 @@ std::string ExpectedAuth()
 const std::vector<ServiceRow>& Table()
 {
     static const std::vector<ServiceRow> table = {
-        {"Nsp", Row<NspRequestType, 6>, "/nsp", "POST",
-         {{"Authorization", kAuth}, {"x-zp-trace-id", kTrace}, {"Content-Type", "application/json"},
-          {"version", kAbsent}, {"x-zp-app-version", kAbsent}, {"x-zp-backup-version", kAbsent},
-          {"encversion", kAbsent}, {"x-zp-device-category", kAbsent}}},
-        {"Basic", Row<BasicType, 10206>, "/basic/getUserDeviceInfo", "POST",
-         {{"Authorization", kAuth}, {"x-zp-trace-id", kAny}, {"Content-Type", kAbsent}, {"version", kAny},
-          {"x-zp-app-version", kAbsent}, {"x-zp-backup-version", kAbsent}, {"encversion", kAbsent},
-          {"x-zp-device-category", "pc"}, {"x-zp-active-method", kAbsent}}},
-        {"Portal", Row<PortalInferfaceType, 1>, "/portal/pcclient/getproperties", "POST",
-         {{"Authorization", kAny}, {"x-zp-trace-id", kTrace}, {"Content-Type", "application/json"},
-          {"version", kAbsent}, {"x-zp-app-version", kAbsent}, {"x-zp-backup-version", kAbsent},
-          {"encversion", kAbsent}, {"x-zp-device-category", kAbsent}, {"Cookie", kAbsent}}},
-        {"Cbs", Row<CbsType, 0>, "/cbs/CloudBackup/ClientServlet", "POST",
-         {{"Authorization", kAuth}, {"x-zp-trace-id", kTrace}, {"Content-Type", "application/json"},
-          {"version", "1122300"}, {"x-zp-app-version", "1122300"}, {"x-zp-backup-version", "1"},
-          {"encversion", "0"}, {"x-zp-device-category", kAbsent}}},
-        {"Pimds", Row<PimdsType, 1>, "/pimds/Statistic/Calendar", "POST",
-         {{"Authorization", kAuth}, {"x-zp-trace-id", kTrace}, {"Content-Type", "application/json"},
-          {"version", "11.2.4.301"}, {"x-zp-app-version", kAbsent}, {"x-zp-backup-version", kAbsent},
-          {"encversion", "1"}, {"x-zp-device-category", kAbsent}}},
-        {"FamilyShare", Row<FamilyShareType, 1>, "/family/user/v1/quota/drive", "POST",
-         {{"Authorization", "Bearer token+with/slash"}, {"x-zp-trace-id", kTrace},
-          {"Content-Type", "application/json"}, {"version", "1122300"}, {"x-zp-app-version", "1122300"},
-          {"x-zp-backup-version", kAbsent}, {"encversion", kAbsent}, {"x-zp-device-category", kAbsent}}},
-        {"PimDataVersion", Row<PimDataVerionType, 0>, "/syncdrive/dataSync/v1/service/1000/about", "POST",
-         {{"Authorization", "Bearer token+with/slash"}, {"x-zp-trace-id", kTrace},
-          {"Content-Type", "application/json"}, {"version", "1122300"}, {"x-zp-app-version", "1122300"},
-          {"x-zp-backup-version", kAbsent}, {"encversion", kAbsent}, {"x-zp-device-category", kAbsent}}},
+        {"Nsp",
+         Row<NspRequestType, 6>,
+         "/nsp",
+         "POST",
+         {{"Authorization", kAuth},
+          {"x-zp-trace-id", kTrace},
+          {"Content-Type", "application/json"},
+          {"version", kAbsent},
+          {"x-zp-app-version", kAbsent},
+          {"x-zp-backup-version", kAbsent},
+          {"encversion", kAbsent},
+          {"x-zp-device-category", kAbsent}}},
+        {"Basic",
+         Row<BasicType, 10206>,
+         "/basic/getUserDeviceInfo",
+         "POST",
+         {{"Authorization", kAuth},
+          {"x-zp-trace-id", kAny},
+          {"Content-Type", kAbsent},
+          {"version", kAny},
+          {"x-zp-app-version", kAbsent},
+          {"x-zp-backup-version", kAbsent},
+          {"encversion", kAbsent},
+          {"x-zp-device-category", "pc"},
+          {"x-zp-active-method", kAbsent}}},
+        {"Portal",
+         Row<PortalInferfaceType, 1>,
+         "/portal/pcclient/getproperties",
+         "POST",
+         {{"Authorization", kAny},
+          {"x-zp-trace-id", kTrace},
+          {"Content-Type", "application/json"},
+          {"version", kAbsent},
+          {"x-zp-app-version", kAbsent},
+          {"x-zp-backup-version", kAbsent},
+          {"encversion", kAbsent},
+          {"x-zp-device-category", kAbsent},
+          {"Cookie", kAbsent}}},
+        {"Cbs",
+         Row<CbsType, 0>,
+         "/cbs/CloudBackup/ClientServlet",
+         "POST",
+         {{"Authorization", kAuth},
+          {"x-zp-trace-id", kTrace},
+          {"Content-Type", "application/json"},
+          {"version", "1122300"},
+          {"x-zp-app-version", "1122300"},
+          {"x-zp-backup-version", "1"},
+          {"encversion", "0"},
+          {"x-zp-device-category", kAbsent}}},
+        {"Pimds",
+         Row<PimdsType, 1>,
+         "/pimds/Statistic/Calendar",
+         "POST",
+         {{"Authorization", kAuth},
+          {"x-zp-trace-id", kTrace},
+          {"Content-Type", "application/json"},
+          {"version", "11.2.4.301"},
+          {"x-zp-app-version", kAbsent},
+          {"x-zp-backup-version", kAbsent},
+          {"encversion", "1"},
+          {"x-zp-device-category", kAbsent}}},
+        {"FamilyShare",
+         Row<FamilyShareType, 1>,
+         "/family/user/v1/quota/drive",
+         "POST",
+         {{"Authorization", "Bearer token+with/slash"},
+          {"x-zp-trace-id", kTrace},
+          {"Content-Type", "application/json"},
+          {"version", "1122300"},
+          {"x-zp-app-version", "1122300"},
+          {"x-zp-backup-version", kAbsent},
+          {"encversion", kAbsent},
+          {"x-zp-device-category", kAbsent}}},
+        {"PimDataVersion",
+         Row<PimDataVerionType, 0>,
+         "/syncdrive/dataSync/v1/service/1000/about",
+         "POST",
+         {{"Authorization", "Bearer token+with/slash"},
+          {"x-zp-trace-id", kTrace},
+          {"Content-Type", "application/json"},
+          {"version", "1122300"},
+          {"x-zp-app-version", "1122300"},
+          {"x-zp-backup-version", kAbsent},
+          {"encversion", kAbsent},
+          {"x-zp-device-category", kAbsent}}},
         // The first cloud photo interface computes its headers into a map that
         // is never sent: the wire shows the common set and the fallbacks only.
-        {"CloudPhoto", Row<CloudPhotoInterfaceType, 10>, "/photo/JPJX/CloudPhoto", "POST",
-         {{"Authorization", kAuth}, {"x-zp-trace-id", kAbsent}, {"Content-Type", kAbsent}, {"version", kAbsent},
-          {"x-zp-os", kAbsent}, {"x-zp-os-brand", kAbsent}, {"client-type", kAbsent}, {"Cflg", kAbsent}}},
+        {"CloudPhoto",
+         Row<CloudPhotoInterfaceType, 10>,
+         "/photo/JPJX/CloudPhoto",
+         "POST",
+         {{"Authorization", kAuth},
+          {"x-zp-trace-id", kAbsent},
+          {"Content-Type", kAbsent},
+          {"version", kAbsent},
+          {"x-zp-os", kAbsent},
+          {"x-zp-os-brand", kAbsent},
+          {"client-type", kAbsent},
+          {"Cflg", kAbsent}}},
     };
     return table;
 }

@@ -29,7 +29,8 @@ protected:
 TEST_F(TransportTest, HeadersGoOutExactlyAsSetWithoutCurlDefaults)
 {
     AnyHttpHeaderMap received;
-    Send(AnyHttpPost, {{"User-Agent", "NuvoraPC/11.2.4.301"}, {"x-custom", "v"}}, std::string(2048, 'x'), received);
+    Send(AnyHttpPost, {{"User-Agent", "NuvoraPC/11.2.4.301"}, {"x-custom", "v"}}, std::string(2048, 'x'),
+         received);
     const CapturedRequest request = server.Last();
     EXPECT_EQ(request.Header("User-Agent"), "NuvoraPC/11.2.4.301");
     EXPECT_EQ(request.Header("x-custom"), "v");
@@ -48,8 +49,8 @@ TEST(TransportWire, EmptyHeaderValueIsSentPresentAndEmpty)
 {
     RawCaptureServer raw;
     AnyHttpRequest request(raw.Url("/plain"), AnyHttpGet);
-    request.Initialize(AnyHttpGet, {{"x-zp-trace-id", ""}, {"version", ""}, {"Authorization", "Bearer "}}, "", 5,
-                       3, 0, 0);
+    request.Initialize(AnyHttpGet, {{"x-zp-trace-id", ""}, {"version", ""}, {"Authorization", "Bearer "}}, "",
+                       5, 3, 0, 0);
     AnyHttpHeaderMap received;
     EXPECT_EQ(request.SendWebRequest(received).status, 200);
     const std::string head = raw.LastHead();

@@ -116,7 +116,7 @@ TEST_F(RequestIntegrationTls, NspRequestAsksForHttp2AndIsServedOverTls)
     // The emulator speaks HTTP/1.1 only: libcurl offers h2 in the handshake
     // and settles on 1.1, and the request goes out unchanged.
     const auto reply = RunRequest<NSPFilesResponse>(FindEnumRow<NspRequestType>(6),
-                                                      MakeNspFolders(Token(), {"/RecordBackup"}, ""));
+                                                    MakeNspFolders(Token(), {"/RecordBackup"}, ""));
     ASSERT_NE(reply, nullptr);
     const Json::Value logged = LastLogged();
     EXPECT_EQ(logged["verdict"].asString(), "ok") << logged.toStyledString();

@@ -39,8 +39,8 @@ inline CloudEmulator::Options CloudOptions(bool tls, const std::string& fixture 
 
 inline std::string LoggedComposite()
 {
-    return "base64(6:" + host::CurrentHostConfig().deviceUuid.value_or("") + ":com.zephra.cloud.pc::" +
-           kLoggedToken + ")";
+    return "base64(6:" + host::CurrentHostConfig().deviceUuid.value_or("") +
+           ":com.zephra.cloud.pc::" + kLoggedToken + ")";
 }
 
 class RequestIntegration : public ::testing::Test
@@ -62,10 +62,12 @@ protected:
     std::shared_ptr<GetQuotaUsedInfoResponse> QueryPhotoQuota()
     {
         return RunRequest<GetQuotaUsedInfoResponse>(
-            FindEnumRow<FamilyShareType>(2), std::make_shared<PostableString>(ToFormText(MakePhotoQuotaQuery(Token()))));
+            FindEnumRow<FamilyShareType>(2),
+            std::make_shared<PostableString>(ToFormText(MakePhotoQuotaQuery(Token()))));
     }
 
-    void AddFault(const std::string& service, const std::string& kind, int status = 0, const std::string& body = "")
+    void AddFault(const std::string& service, const std::string& kind, int status = 0,
+                  const std::string& body = "")
     {
         Json::Value rule;
         rule["service"] = service;

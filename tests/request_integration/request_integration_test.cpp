@@ -35,15 +35,15 @@ TEST_F(RequestIntegration, QuotaFormCarriesTheTokenEncoded)
     ASSERT_NE(QueryPhotoQuota(), nullptr);
     const Json::Value logged = LastLogged();
     EXPECT_EQ(logged["verdict"].asString(), "ok");
-    EXPECT_EQ(logged["body"].asString(),
-              "nsp_svc=nsp.user.getQuotaUsedInfo&accessToken=<token>&q=collection%3dphoto%20and%20%28trashed%3dtrue%20or%"
-              "20trashed%3dfalse%29&serviceType=10880002");
+    EXPECT_EQ(logged["body"].asString(), "nsp_svc=nsp.user.getQuotaUsedInfo&accessToken=<token>&q=collection%"
+                                         "3dphoto%20and%20%28trashed%3dtrue%20or%"
+                                         "20trashed%3dfalse%29&serviceType=10880002");
 }
 
 TEST_F(RequestIntegration, NspQueryCarriesTheCompositeTokenFromTheFallback)
 {
     const auto reply = RunRequest<NSPFilesResponse>(FindEnumRow<NspRequestType>(6),
-                                                      MakeNspFolders(Token(), {"/RecordBackup"}, ""));
+                                                    MakeNspFolders(Token(), {"/RecordBackup"}, ""));
     ASSERT_NE(reply, nullptr);
     const Json::Value logged = LastLogged();
     EXPECT_EQ(logged["verdict"].asString(), "ok") << logged.toStyledString();
@@ -54,15 +54,16 @@ TEST_F(RequestIntegration, NspQueryCarriesTheCompositeTokenFromTheFallback)
     // The body is a form, yet the service is addressed with a JSON type.
     ExpectHeaders(logged, {{"Authorization", LoggedComposite()}, {"Content-Type", "application/json"}});
     ExpectTraceCode(logged, "05002");
-    ExpectAbsent(logged, {"version", "x-zp-app-version", "x-zp-backup-version", "encversion", "x-zp-device-category"});
+    ExpectAbsent(
+        logged, {"version", "x-zp-app-version", "x-zp-backup-version", "encversion", "x-zp-device-category"});
     ASSERT_NE(reply->fileList, nullptr);
     EXPECT_FALSE(reply->fileList->empty());
 }
 
 TEST_F(RequestIntegration, CbsQueryIsAcceptedWithItsHeaders)
 {
-    const auto backups =
-        RunRequest<QueryAllBackUpResponse>(FindEnumRow<CbsType>(0), MakeQueryAllDevicesBackupRecordReqRequest());
+    const auto backups = RunRequest<QueryAllBackUpResponse>(FindEnumRow<CbsType>(0),
+                                                            MakeQueryAllDevicesBackupRecordReqRequest());
     ASSERT_NE(backups, nullptr);
     const Json::Value logged = LastLogged();
     EXPECT_EQ(logged["verdict"].asString(), "ok") << logged.toStyledString();
@@ -159,7 +160,8 @@ TEST_F(RequestIntegration, PortalAppendsTheTraceIdToItsUrlAndSendsTheBareToken)
     ExpectCommonHeaders(logged);
     // No scheme word: the token alone (URL-encoded; the emulator's HTTP
     // library decodes header values before it logs them).
-    ExpectHeaders(logged, {{"Authorization", kLoggedToken}, {"Content-Type", "application/json"}, {"Cookie", ""}});
+    ExpectHeaders(logged,
+                  {{"Authorization", kLoggedToken}, {"Content-Type", "application/json"}, {"Cookie", ""}});
     ExpectAbsent(logged, {"version", "x-zp-app-version", "encversion", "x-zp-device-category"});
 }
 
@@ -173,7 +175,8 @@ TEST_F(RequestIntegration, GalleryRequestSendsOnlyTheCommonSetAndTheFallbacks)
     // The class writes its own headers into a map that is never sent: what
     // reaches the wire is the composite token of the send step's fallback.
     ExpectHeaders(logged, {{"Authorization", LoggedComposite()}});
-    ExpectAbsent(logged, {"x-zp-trace-id", "Content-Type", "version", "x-zp-os", "x-zp-os-brand", "client-type", "Cflg"});
+    ExpectAbsent(logged, {"x-zp-trace-id", "Content-Type", "version", "x-zp-os", "x-zp-os-brand",
+                          "client-type", "Cflg"});
     // The emulator serves only the about query of the gallery.
     EXPECT_EQ(logged["status"].asInt(), 404);
 }

@@ -44,7 +44,8 @@ std::string WriteTemp(const std::string& name, const std::string& text)
 
 TEST(QuotaSizeText, FormatsTheTableOfBoundaries)
 {
-    struct Row {
+    struct Row
+    {
         double bytes;
         const char* text;
     };
@@ -162,8 +163,9 @@ TEST(CloudSpaceQuery, DefaultColoursWithoutConfiguration)
     CloudSpaceQuery query = FreshQuery(0, 0);
     const auto colors = query.GetColorInfo();
     const std::map<std::string, unsigned long long> expected = {
-        {"backup", 0xFF00BFC9ULL}, {"drive", 0xFF007DFFULL}, {"photos", 0xFF47CC47ULL}, {"other", 0xFFFFBF00ULL},
-        {"family", 0xFFFF7500ULL}, {"full", 0xFFFA2A2DULL},  {"bkcolor", 0xFFF2F2F2ULL},
+        {"backup", 0xFF00BFC9ULL},  {"drive", 0xFF007DFFULL},  {"photos", 0xFF47CC47ULL},
+        {"other", 0xFFFFBF00ULL},   {"family", 0xFFFF7500ULL}, {"full", 0xFFFA2A2DULL},
+        {"bkcolor", 0xFFF2F2F2ULL},
     };
     EXPECT_EQ(colors, expected);
 }
@@ -197,9 +199,10 @@ TEST(CloudSpaceQuery, UnknownKeyIsSkippedAndColourWithoutHashLosesADigit)
 
 TEST(CloudSpaceQuery, ConfigFileIsReadAcrossLines)
 {
-    const std::string path = WriteTemp("space_om_config_lines.json",
-                                       "{\n \"cloud_space_usage\": {\n  \"items\": [\n"
-                                       "   {\"key\": \"photos\", \"color\": \"#010203\", \"extra\": 1}\n  ]\n }\n}\n");
+    const std::string path =
+        WriteTemp("space_om_config_lines.json",
+                  "{\n \"cloud_space_usage\": {\n  \"items\": [\n"
+                  "   {\"key\": \"photos\", \"color\": \"#010203\", \"extra\": 1}\n  ]\n }\n}\n");
     CloudSpaceQuery query = FreshQuery(0, 0);
     const Json::Value items = query.GetConfigFromFile(path);
     ASSERT_TRUE(items.isArray());

@@ -24,13 +24,15 @@ std::shared_ptr<CloudSpaceItem> Item(CloudSpaceType type, int64_t space, const s
 
 TEST(CloudSpaceTypeTable, ValuesMatchTheCategories)
 {
-    struct Row {
+    struct Row
+    {
         CloudSpaceType type;
         int value;
     };
     const Row rows[] = {
-        {Contact, 0}, {Notepad, 1}, {Gallery, 2},  {CloudDisk, 3}, {Recorder, 4}, {CloudBackUp, 5},
-        {Browser, 6}, {HarassmentInterception, 8}, {Message, 9},   {Phone, 10},   {Wlan, 11}, {Calendar, 12},
+        {Contact, 0},  {Notepad, 1},     {Gallery, 2}, {CloudDisk, 3},
+        {Recorder, 4}, {CloudBackUp, 5}, {Browser, 6}, {HarassmentInterception, 8},
+        {Message, 9},  {Phone, 10},      {Wlan, 11},   {Calendar, 12},
     };
     for (const Row& row : rows) {
         EXPECT_EQ(static_cast<int>(row.type), row.value);
@@ -130,15 +132,16 @@ TEST(ModelWriteGuard, LeavesWhenTheScopeEnds)
 TEST(ItemOrdering, BackupLeadsThenBytesLargestFirstThenCounts)
 {
     std::vector<std::shared_ptr<CloudSpaceItem>> items = {
-        Item(Message, 0, "3"),   Item(Gallery, 100, ""), Item(CloudBackUp, 5, "1"),
-        Item(CloudDisk, 900, ""), Item(Phone, 0, "40"),  Item(Recorder, 1, "2"),
+        Item(Message, 0, "3"),    Item(Gallery, 100, ""), Item(CloudBackUp, 5, "1"),
+        Item(CloudDisk, 900, ""), Item(Phone, 0, "40"),   Item(Recorder, 1, "2"),
     };
     std::sort(items.begin(), items.end(), CloudSpaceItemComesFirst);
     std::vector<CloudSpaceType> order;
     for (const auto& item : items) {
         order.push_back(item->type);
     }
-    EXPECT_EQ(order, (std::vector<CloudSpaceType>{CloudBackUp, CloudDisk, Gallery, Recorder, Phone, Message}));
+    EXPECT_EQ(order,
+              (std::vector<CloudSpaceType>{CloudBackUp, CloudDisk, Gallery, Recorder, Phone, Message}));
 }
 
 TEST(ItemOrdering, EqualSpaceGivesNeitherPrecedence)
@@ -152,7 +155,9 @@ TEST(ItemOrdering, EqualSpaceGivesNeitherPrecedence)
 TEST(ItemOrdering, ZeroSpaceAndEmptyCountSortsLast)
 {
     std::vector<std::shared_ptr<CloudSpaceItem>> items = {
-        Item(Wlan, 0, ""), Item(Calendar, 0, "1"), Item(Notepad, 1, "0"),
+        Item(Wlan, 0, ""),
+        Item(Calendar, 0, "1"),
+        Item(Notepad, 1, "0"),
     };
     std::sort(items.begin(), items.end(), CloudSpaceItemComesFirst);
     EXPECT_EQ(items.back()->type, Wlan);

@@ -96,9 +96,10 @@ TEST(GetBackUpData, V3WithEmptyDeviceListSendsNoQuotaRequest)
     ASSERT_NE(wired.viewModel.deviceList, nullptr);
     EXPECT_TRUE(wired.viewModel.deviceList->empty());
     EXPECT_EQ(cloud.RequestLog().size(), 0u);
-    EXPECT_EQ(Messages(sink, kBackupFunction),
-              (std::vector<std::string>{"v3 query backupData start.", "v3 query backupData listDev Size:",
-                                        "v3 query backupData lstBackUpModel Size:", "v3 query backupData end."}));
+    EXPECT_EQ(
+        Messages(sink, kBackupFunction),
+        (std::vector<std::string>{"v3 query backupData start.", "v3 query backupData listDev Size:",
+                                  "v3 query backupData lstBackUpModel Size:", "v3 query backupData end."}));
 }
 
 TEST(GetBackUpData, V3DeviceListComesFromTheHostAndIsReplacedEachQuery)
@@ -133,8 +134,9 @@ TEST(GetBackUpData, V1AsksTheBackupServiceAndClearsTheV3Mark)
     EXPECT_EQ(messages.back(), "v1 query backupData start.");
     bool askedForRecords = false;
     for (const Json::Value& request : cloud.RequestLog()) {
-        askedForRecords |= request["service"].asString() == "cbs" &&
-                           request["body"].asString().find("QueryAllDevicesBackupRecordReq") != std::string::npos;
+        askedForRecords |=
+            request["service"].asString() == "cbs" &&
+            request["body"].asString().find("QueryAllDevicesBackupRecordReq") != std::string::npos;
     }
     EXPECT_TRUE(askedForRecords);
 }

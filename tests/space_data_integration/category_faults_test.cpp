@@ -27,18 +27,21 @@ namespace {
 using spacemgm_test::CloudEmulator;
 using Lines = std::vector<std::string>;
 
-struct Row {
+struct Row
+{
     int64_t space;
     std::string count;
     int64_t recycle;
 };
 
-struct Outcome {
+struct Outcome
+{
     std::optional<Row> row;
     Lines lines;
 };
 
-struct FaultTarget {
+struct FaultTarget
+{
     const char* name;
     const char* fixture; // "sample", "v2" or "browser-v1"
     CloudSpaceType type;
@@ -111,7 +114,8 @@ const std::string kBrowserStart = "Getting Item Space: Browser starts.";
 const std::string kBrowserV1End = "Getting Item Space: Browser v1 ends.";
 const std::string kBrowserV2End = "Getting Item Space: Browser v2 ends.";
 const std::string kStatNull = "Getting statistic response failed,query PIMDS Failed Response is null";
-const std::string kStatNoResult = "Getting statistic response failed,query PIMDS Failed Code: data->result is null";
+const std::string kStatNoResult =
+    "Getting statistic response failed,query PIMDS Failed Code: data->result is null";
 const std::string kStat500 = "Getting statistic response failed,query PIMDS Failed Code: 500";
 const std::string kStatOk = "Getting statistic response successfully.";
 const std::string kV1Start = "v1 query backupData start.";
@@ -152,36 +156,31 @@ std::vector<FaultTarget> Targets()
         return std::vector<Outcome>{WithRow({0, firstPage, 0}, {start, kCountOk, end}),
                                     WithRow({0, firstPage, 0}, {start, kCountOk, kCountResult500, end})};
     };
-    const auto smsFirst = countFirst("Getting Item Space: Message starts.", "Getting Item Space: Message ends.");
+    const auto smsFirst =
+        countFirst("Getting Item Space: Message starts.", "Getting Item Space: Message ends.");
     const auto smsSecond =
         countSecond("Getting Item Space: Message starts.", "Getting Item Space: Message ends.", "2407");
     const auto callFirst = countFirst("Getting Item Space: Phone starts.", "Getting Item Space: Phone ends.");
-    const auto callSecond = countSecond("Getting Item Space: Phone starts.", "Getting Item Space: Phone ends.", "683");
+    const auto callSecond =
+        countSecond("Getting Item Space: Phone starts.", "Getting Item Space: Phone ends.", "683");
 
     // A version reply that is there but names no version is the old store;
     // only a missing reply is the version error.
     auto version = [](const char* name, CloudSpaceType type, const char* service, const std::string& start,
                       const std::string& error, Outcome onOldStore) {
         const std::string endpoint = std::string("/syncdrive/dataSync/v1/service/") + service + "/about";
-        return FaultTarget{name,
-                           "sample",
-                           type,
-                           endpoint,
-                           "",
-                           0,
-                           NoRow({start, error}),
-                           onOldStore,
-                           onOldStore,
-                           onOldStore};
+        return FaultTarget{name,       "sample",   type,      endpoint, "", 0, NoRow({start, error}),
+                           onOldStore, onOldStore, onOldStore};
     };
     auto versionTwo = [](const char* name, const char* fixture, CloudSpaceType type, const char* kinds,
                          const std::string& start, const std::string& end, const std::string& fail) {
         const Outcome nothing = NoRow({start, kVersionOk, end});
-        return FaultTarget{name,  fixture, type, "/family/rest.php", kinds, 0, NoRow({start, kVersionOk, fail, end}),
-                           nothing, nothing, nothing};
+        return FaultTarget{
+            name,    fixture, type,   "/family/rest.php", kinds, 0, NoRow({start, kVersionOk, fail, end}),
+            nothing, nothing, nothing};
     };
-    auto statistics = [](const char* name, CloudSpaceType type, const char* endpoint, const std::string& start,
-                         const std::string& end) {
+    auto statistics = [](const char* name, CloudSpaceType type, const char* endpoint,
+                         const std::string& start, const std::string& end) {
         return FaultTarget{name,
                            "sample",
                            type,
@@ -195,25 +194,27 @@ std::vector<FaultTarget> Targets()
     };
 
     const Outcome browserOldStoreEmpty = NoRow({kBrowserStart, kVersionOk, kBrowserV1End});
-    const Outcome contactNull =
-        NoRow({kContactStart, kVersionOk, "QueryContactCount Query PIMDS Failed Response is null.", kContactV1End});
-    const Outcome browserNull =
-        NoRow({kBrowserStart, kVersionOk, "QueryBrowserCount Query PIMDS Failed Response is null", kBrowserV1End});
+    const Outcome contactNull = NoRow(
+        {kContactStart, kVersionOk, "QueryContactCount Query PIMDS Failed Response is null.", kContactV1End});
+    const Outcome browserNull = NoRow(
+        {kBrowserStart, kVersionOk, "QueryBrowserCount Query PIMDS Failed Response is null", kBrowserV1End});
 
     return {
         {"Gallery", "sample", Gallery, "/family/rest.php", "collection%3dphoto", 0, galleryNothing,
-         NoRow({kGalleryStart, "galleryResponse->retCode = 500", kGalleryEnd}), galleryNothing, galleryNothing},
+         NoRow({kGalleryStart, "galleryResponse->retCode = 500", kGalleryEnd}), galleryNothing,
+         galleryNothing},
 
         {"CloudDiskAbout", "sample", CloudDisk, "/cloudphoto/cloudPhoto/v1/about", "", 0, diskUntouched,
          diskUntouched, diskUntouched, diskUntouched},
         {"CloudDiskUsed", "sample", CloudDisk, "/family/user/v1/quota/drive", "", 0, diskNoUrl,
          NoRow({kDiskStart, "getSpaceFromUrl->retCode = 500", kDiskEnd}), diskZeroUrl, diskZeroUrl},
         {"CloudDiskRecycle", "sample", CloudDisk, "/family/rest.php", "collection%3ddrive", 0, diskNoRecycle,
-         WithRow({26843545600, "", 0}, {kDiskStart, kDiskUrlOk, kDiskCut, "recycleResponse->retCode = 500", kDiskEnd}),
+         WithRow({26843545600, "", 0},
+                 {kDiskStart, kDiskUrlOk, kDiskCut, "recycleResponse->retCode = 500", kDiskEnd}),
          diskZeroRecycle, diskZeroRecycle},
 
-        {"RecorderListing", "sample", Recorder, "/nsp", "queryFolder", 0, recorderNoListing, recorderNoListing,
-         recorderNoListing, recorderNoListing},
+        {"RecorderListing", "sample", Recorder, "/nsp", "queryFolder", 0, recorderNoListing,
+         recorderNoListing, recorderNoListing, recorderNoListing},
         {"RecorderAttributes", "sample", Recorder, "/nsp", "getattr", 0, recorderNoFolders, recorderNoFolders,
          recorderNoFolders, NoRow({kRecorderStart, kFilesOk, kFoldersOk, kRecorderEnd})},
 
@@ -222,26 +223,27 @@ std::vector<FaultTarget> Targets()
         {"HarassmentFiles", "sample", HarassmentInterception, "/nsp", "nsp.vfs.queryFile&", 0, blockedNoFiles,
          blockedNoFiles, blockedNoFiles, blockedNoFiles},
 
-        {"MessageFirstPage", "sample", Message, "/cbs/CloudBackup/ClientServlet", "CountByDeviceReq", 1, smsFirst[0],
-         smsFirst[1], smsFirst[0], smsFirst[0]},
+        {"MessageFirstPage", "sample", Message, "/cbs/CloudBackup/ClientServlet", "CountByDeviceReq", 1,
+         smsFirst[0], smsFirst[1], smsFirst[0], smsFirst[0]},
         {"MessageSecondPage", "sample", Message, "/cbs/CloudBackup/ClientServlet", "CountByDeviceReq", 2,
          smsSecond[0], smsSecond[1], smsSecond[0], smsSecond[0]},
-        {"PhoneFirstPage", "sample", Phone, "/cbs/CloudBackup/ClientServlet", "CountByDeviceReq", 1, callFirst[0],
-         callFirst[1], callFirst[0], callFirst[0]},
-        {"PhoneSecondPage", "sample", Phone, "/cbs/CloudBackup/ClientServlet", "CountByDeviceReq", 2, callSecond[0],
-         callSecond[1], callSecond[0], callSecond[0]},
+        {"PhoneFirstPage", "sample", Phone, "/cbs/CloudBackup/ClientServlet", "CountByDeviceReq", 1,
+         callFirst[0], callFirst[1], callFirst[0], callFirst[0]},
+        {"PhoneSecondPage", "sample", Phone, "/cbs/CloudBackup/ClientServlet", "CountByDeviceReq", 2,
+         callSecond[0], callSecond[1], callSecond[0], callSecond[0]},
 
         version("ContactVersion", Contact, "1000", kContactStart, "Getting Contact Version Error.",
                 WithRow(kContactRow, {kContactStart, kVersionOk, kContactV1End})),
         {"ContactStatistics", "sample", Contact, "/pimds/Statistic/Contact", "", 0, contactNull,
-         NoRow({kContactStart, kVersionOk, "QueryContactCount Query PIMDS Failed Code : 500, info:injected fault",
-                kContactV1End}),
+         NoRow({kContactStart, kVersionOk,
+                "QueryContactCount Query PIMDS Failed Code : 500, info:injected fault", kContactV1End}),
          contactNull, NoRow({kContactStart, kVersionOk, kContactV1End})},
         versionTwo("ContactQuota", "v2", Contact, "%5bcontact%5d", kContactStart, kContactV2End,
                    "Getting v2 pim data fail. kind is contact"),
 
         version("NotepadVersion", Notepad, "1001", kNotepadStart, "Getting Notepad Version Error.",
-                WithRow(kNotepadRow, {kNotepadStart, kVersionOk, kNotepadAttrOk, kNotepadCountOk, kNotepadV1End})),
+                WithRow(kNotepadRow,
+                        {kNotepadStart, kVersionOk, kNotepadAttrOk, kNotepadCountOk, kNotepadV1End})),
         {"NotepadAttributes", "sample", Notepad, "/nsp", "getattr", 0,
          WithRow({0, "57", 2}, {kNotepadStart, kVersionOk, kNotepadCountOk, kNotepadV1End}),
          WithRow({0, "57", 2}, {kNotepadStart, kVersionOk, kNotepadCountOk, kNotepadV1End}),
@@ -271,16 +273,17 @@ std::vector<FaultTarget> Targets()
         // names none sends it to the old one, which holds nothing.
         version("BrowserVersion", Browser, "1005", kBrowserStart, "Getting Browser Version Error.",
                 browserOldStoreEmpty),
-        versionTwo("BrowserQuota", "sample", Browser, "%5bbookmark%2cinfoflow%5d", kBrowserStart, kBrowserV2End,
-                   "Getting v2 pim data fail. kind is browser."),
+        versionTwo("BrowserQuota", "sample", Browser, "%5bbookmark%2cinfoflow%5d", kBrowserStart,
+                   kBrowserV2End, "Getting v2 pim data fail. kind is browser."),
         {"BrowserStatistics", "browser-v1", Browser, "/pimds/Statistic/Browser", "", 0, browserNull,
-         NoRow({kBrowserStart, kVersionOk, "QueryBrowserCount Query PIMDS Failed Code : 500, info: injected fault",
-                kBrowserV1End}),
+         NoRow({kBrowserStart, kVersionOk,
+                "QueryBrowserCount Query PIMDS Failed Code : 500, info: injected fault", kBrowserV1End}),
          browserNull, NoRow({kBrowserStart, kVersionOk, kBrowserV1End})},
 
-        {"BackupRecordsV1", "sample", CloudBackUp, "/cbs/CloudBackup/ClientServlet", "QueryAllDevicesBackupRecordReq",
-         0, NoRow({kV1Start, kV1Count, kV1Models, kV1Start}), NoRow({kV1Start, kV1Count, kV1Models, kV1Start}),
-         NoRow({kV1Start, kV1Count, kV1Models, kV1Start}), NoRow({kV1Start, kV1Count, kV1Models, kV1Start})},
+        {"BackupRecordsV1", "sample", CloudBackUp, "/cbs/CloudBackup/ClientServlet",
+         "QueryAllDevicesBackupRecordReq", 0, NoRow({kV1Start, kV1Count, kV1Models, kV1Start}),
+         NoRow({kV1Start, kV1Count, kV1Models, kV1Start}), NoRow({kV1Start, kV1Count, kV1Models, kV1Start}),
+         NoRow({kV1Start, kV1Count, kV1Models, kV1Start})},
         {"BackupQuotaV1", "sample", CloudBackUp, "/family/rest.php", "deviceId%20in", 0,
          NoRow({kV1Start, kV1Records, kV1Count, kV1Models, kV1Start}),
          NoRow({kV1Start, kV1Records, kV1Count, kV1Models, kV1Start}),
@@ -305,7 +308,8 @@ std::string WriteBrowserV1Fixture(const std::string& folder)
     Json::Value& browser = fixture["pim"]["browser"];
     browser["dataVersion"] = "v1.0";
     browser.removeMember("records");
-    const std::pair<const char*, int> sources[] = {{"bookmark", 300}, {"infoflow", 40}, {"browser", 9}, {"reading", 7}};
+    const std::pair<const char*, int> sources[] = {
+        {"bookmark", 300}, {"infoflow", 40}, {"browser", 9}, {"reading", 7}};
     for (const auto& source : sources) {
         Json::Value entry;
         entry["source"] = source.first;
@@ -318,7 +322,8 @@ std::string WriteBrowserV1Fixture(const std::string& folder)
     return path;
 }
 
-class FaultMatrix : public ::testing::Test {
+class FaultMatrix : public ::testing::Test
+{
 protected:
     static void SetUpTestSuite()
     {

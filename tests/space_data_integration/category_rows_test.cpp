@@ -88,7 +88,8 @@ TEST(SampleAccount, EveryCategoryYieldsItsRow)
     for (const Json::Value& file : fixture["files"]) {
         const std::string path = file["path"].asString();
         std::string name = path.substr(path.rfind('/') + 1);
-        std::transform(name.begin(), name.end(), name.begin(), [](unsigned char c) { return std::tolower(c); });
+        std::transform(name.begin(), name.end(), name.begin(),
+                       [](unsigned char c) { return std::tolower(c); });
         if (path.rfind("/RecordBackup/", 0) == 0) {
             recordings += file["size"].asInt64();
             ++recordingFiles;
@@ -128,7 +129,8 @@ TEST(ItemSpace, TypesFiveAndSevenAndAboveTwelveDoNothing)
 
 TEST(ItemSpace, FailedVersionQueryLogsTheCategoryErrorLine)
 {
-    struct Row {
+    struct Row
+    {
         CloudSpaceType type;
         const char* endpointPart;
         const char* errorLine;

@@ -94,9 +94,10 @@ TEST(BackupRoadV3, RowsComeFromTheHostListAndTheQuotaLineCarriesCodeAndUsed)
     // The quota line spells out the code and the bytes; the two size lines
     // around it carry no number.
     EXPECT_EQ(BackupLines(sink),
-              (std::vector<std::string>{"v3 query backupData start.", "v3 query backupData listDev Size:",
-                                        "v3 query backupData retCode0 used Size:36507222016",
-                                        "v3 query backupData lstBackUpModel Size:", "v3 query backupData end."}));
+              (std::vector<std::string>{
+                  "v3 query backupData start.",
+                  "v3 query backupData listDev Size:", "v3 query backupData retCode0 used Size:36507222016",
+                  "v3 query backupData lstBackUpModel Size:", "v3 query backupData end."}));
 }
 
 TEST(BackupRoadV3, DeviceTheHostDoesNotKnowGetsAnEmptyName)
@@ -130,24 +131,25 @@ TEST(BackupRoadV1, RowsAreNamedByTheRecordsAndTheDeviceIdsAreRemembered)
     for (const BackUpModel& model : result->models) {
         EXPECT_EQ(model.deviceName, model.deviceId == "bk-0001-a1f3" ? "Nuvo P60 Pro" : "Nuvo Pad 11");
     }
-    EXPECT_EQ(wired.viewModel.backupDeviceIds,
-              (std::map<std::string, std::string>{{"bk-0001-a1f3", "dev-0001"}, {"bk-0002-a1f3", "dev-0002"}}));
+    EXPECT_EQ(
+        wired.viewModel.backupDeviceIds,
+        (std::map<std::string, std::string>{{"bk-0001-a1f3", "dev-0001"}, {"bk-0002-a1f3", "dev-0002"}}));
     // The first device has two backups: its id goes into the quota query once.
     bool askedOnce = false;
     for (const Json::Value& request : cloud.RequestLog()) {
         const std::string body = request["body"].asString();
         if (body.find("deviceId%20in") != std::string::npos) {
             const auto first = body.find("bk-0001-a1f3");
-            askedOnce = first != std::string::npos && body.find("bk-0001-a1f3", first + 1) == std::string::npos;
+            askedOnce =
+                first != std::string::npos && body.find("bk-0001-a1f3", first + 1) == std::string::npos;
         }
     }
     EXPECT_TRUE(askedOnce);
     EXPECT_EQ(BackupLines(sink),
-              (std::vector<std::string>{"v1 query backupData start.",
-                                        "v1 query backupData QueryAllDevicesBackupRecord Size:",
-                                        "v1 query backupData deviceIdCount Size:",
-                                        "v1 query backupData GetQuotaUsedInfo reCode:",
-                                        "v1 query backupData lstBackUpModel Size:", "v1 query backupData start."}));
+              (std::vector<std::string>{
+                  "v1 query backupData start.", "v1 query backupData QueryAllDevicesBackupRecord Size:",
+                  "v1 query backupData deviceIdCount Size:", "v1 query backupData GetQuotaUsedInfo reCode:",
+                  "v1 query backupData lstBackUpModel Size:", "v1 query backupData start."}));
 }
 
 TEST(BackupRoad, FailedQueryAfterAGoodLoadKeepsTheBackupRows)
@@ -248,7 +250,8 @@ TEST(DeleteBackUp, VersionThreeGoesThroughTheHostToTheBackupService)
 
 TEST(DeleteMessage, MessagesAndCallRecordsAreOneCommandEach)
 {
-    struct Case {
+    struct Case
+    {
         CloudSpaceType type;
         const char* kind;
     };
@@ -319,7 +322,8 @@ TEST(DeleteHarassment, EmptyAccountHasNothingToDelete)
 
 TEST(DeleteHarassment, ResultTableOfTheRemovalReply)
 {
-    struct Case {
+    struct Case
+    {
         const char* name;
         const char* reply; // null: no reply at all
         DeleteResult result;
@@ -327,8 +331,8 @@ TEST(DeleteHarassment, ResultTableOfTheRemovalReply)
     const Case cases[] = {
         {"absent", nullptr, DeleteFailed},
         {"successes only", R"({"successList":[{"name":"a"}],"failList":[]})", DeleteSuccess},
-        {"successes and failures", R"({"successList":[{"name":"a"}],"failList":[{"name":"b","errCode":403}]})",
-         DeletePartFailed},
+        {"successes and failures",
+         R"({"successList":[{"name":"a"}],"failList":[{"name":"b","errCode":403}]})", DeletePartFailed},
         {"failures only", R"({"successList":[],"failList":[{"name":"b","errCode":403}]})", DeleteFailed},
         {"neither", R"({"successList":[],"failList":[]})", DeletePartFailed},
     };
@@ -362,9 +366,10 @@ TEST(DeleteHarassment, OneFileRemovedAndOneRefusedIsAPartialFailure)
     rule["status"] = 200;
     rule["bodyContains"] = "nsp.vfs.queryFile&";
     rule["limit"] = 1;
-    rule["body"] = R"({"fileList":[)"
-                   R"({"name":"/BlockedBackup/Nuvo P60 Pro/PhoneManager_intercept_0.db","type":"File","size":"524288"},)"
-                   R"({"name":"/BlockedBackup/Nuvo P60 Pro/phonemanager_gone.db","type":"File","size":"1"}]})";
+    rule["body"] =
+        R"({"fileList":[)"
+        R"({"name":"/BlockedBackup/Nuvo P60 Pro/PhoneManager_intercept_0.db","type":"File","size":"524288"},)"
+        R"({"name":"/BlockedBackup/Nuvo P60 Pro/phonemanager_gone.db","type":"File","size":"1"}]})";
     cloud.AddFault(rule);
     EXPECT_EQ(wired.viewModel.DeleteMessage(HarassmentInterception), DeletePartFailed);
     EXPECT_FALSE(Holds(FilePaths(cloud), "/BlockedBackup/Nuvo P60 Pro/PhoneManager_intercept_0.db"));

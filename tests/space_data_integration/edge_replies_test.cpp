@@ -17,12 +17,10 @@ namespace {
 using spacemgm_test::CloudEmulator;
 using Items = std::vector<std::shared_ptr<CloudSpaceItem>>;
 
-class EdgeReplies : public ::testing::Test {
+class EdgeReplies : public ::testing::Test
+{
 protected:
-    void SetUp() override
-    {
-        host::SetCurrentHostConfig(space_test::ConfigFor(cloud_));
-    }
+    void SetUp() override { host::SetCurrentHostConfig(space_test::ConfigFor(cloud_)); }
 
     // The next request to `endpoint` whose body holds `bodyContains` gets
     // `reply` with status 200.
@@ -87,9 +85,10 @@ TEST_F(EdgeReplies, GalleryWithZeroTotalsHasNoRowButLogsSuccess)
            R"({"trashed":true,"assetsQuotadSpace":0}]})");
     Logger::ScopedMemorySink sink;
     EXPECT_EQ(Category(Gallery), nullptr);
-    EXPECT_EQ(Messages(sink), (std::vector<std::string>{"Getting Item Space: Gallery starts.",
-                                                        "Getting quota used info of recycle space successfully.",
-                                                        "Getting Item Space: Gallery ends."}));
+    EXPECT_EQ(Messages(sink),
+              (std::vector<std::string>{"Getting Item Space: Gallery starts.",
+                                        "Getting quota used info of recycle space successfully.",
+                                        "Getting Item Space: Gallery ends."}));
 }
 
 TEST_F(EdgeReplies, CloudDiskWithNothingUsedAsksNoRecycleQuery)
@@ -103,8 +102,9 @@ TEST_F(EdgeReplies, CloudDiskWithNothingUsedAsksNoRecycleQuery)
 
 TEST_F(EdgeReplies, RecorderWithBytesButNoFilesHasNoRow)
 {
-    Answer("/nsp", "getattr",
-           R"({"successList":[{"name":"/RecordBackup/A","type":"Directory","space":"1000000","fileCount":0}]})");
+    Answer(
+        "/nsp", "getattr",
+        R"({"successList":[{"name":"/RecordBackup/A","type":"Directory","space":"1000000","fileCount":0}]})");
     EXPECT_EQ(Category(Recorder), nullptr);
 }
 
@@ -248,9 +248,10 @@ TEST_F(EdgeReplies, BackupRowAloneReplacesTheLoadBefore)
         rule["service"] = service;
         cloud_.AddFault(rule);
     }
-    const std::pair<const char*, const char*> others[] = {{"/family/user/v1/quota/drive", ""},
-                                                          {"/family/rest.php", "collection%3dphoto"},
-                                                          {"/cbs/CloudBackup/ClientServlet", "CountByDeviceReq"}};
+    const std::pair<const char*, const char*> others[] = {
+        {"/family/user/v1/quota/drive", ""},
+        {"/family/rest.php", "collection%3dphoto"},
+        {"/cbs/CloudBackup/ClientServlet", "CountByDeviceReq"}};
     for (const auto& other : others) {
         Json::Value rule;
         rule["kind"] = "empty";

@@ -16,7 +16,8 @@ namespace {
 
 using spacemgm_test::CloudEmulator;
 
-struct ExpectedRow {
+struct ExpectedRow
+{
     CloudSpaceType type;
     int64_t space;
     const char* count;
@@ -25,13 +26,15 @@ struct ExpectedRow {
     int32_t infoflowCount;
 };
 
-struct ExpectedBackup {
+struct ExpectedBackup
+{
     const char* deviceId;
     const char* deviceName;
     int64_t size;
 };
 
-struct FixtureCase {
+struct FixtureCase
+{
     const char* fixture;
     std::vector<ExpectedRow> rows;
     std::vector<ExpectedBackup> backups;
@@ -89,7 +92,9 @@ const FixtureCase kCases[] = {
 };
 #endif
 
-class FixtureRows : public ::testing::TestWithParam<FixtureCase> {};
+class FixtureRows : public ::testing::TestWithParam<FixtureCase>
+{
+};
 
 std::string CaseName(const ::testing::TestParamInfo<FixtureCase>& info)
 {
@@ -155,7 +160,8 @@ TEST(FixtureRowsOrder, SampleRowsAreInDisplayOrder)
     for (const auto& item : wired.viewModel.model->items) {
         order.push_back(item->type);
     }
-    EXPECT_EQ(order, (std::vector<CloudSpaceType>{CloudBackUp, Gallery, CloudDisk, HarassmentInterception, Recorder,
-                                                   Notepad, Message, Phone, Contact, Browser, Calendar, Wlan}));
+    EXPECT_EQ(order,
+              (std::vector<CloudSpaceType>{CloudBackUp, Gallery, CloudDisk, HarassmentInterception, Recorder,
+                                           Notepad, Message, Phone, Contact, Browser, Calendar, Wlan}));
 }
 #endif

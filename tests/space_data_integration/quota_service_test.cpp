@@ -100,7 +100,7 @@ TEST(CloudSpaceQuery, CheckRemainSpaceFalseWhenExactlyTenMegabytesWouldRemain)
     CloudEmulator cloud;
     host::SetCurrentHostConfig(space_test::ConfigFor(cloud));
     CloudSpaceQuery query = Copy();
-    query.GetCloudSpaceRequest();  // a fresh stamp: no query for 20 minutes
+    query.GetCloudSpaceRequest(); // a fresh stamp: no query for 20 minutes
     ASSERT_GT(query.getRefaceSpaceTime(), 0);
     const unsigned long long mib = 1024ULL * 1024ULL;
     query.GetSpaceInfo().used = 0;
@@ -135,7 +135,7 @@ TEST(CloudSpaceQuery, LowAccountIsAskedOnEveryCheck)
     query.GetCloudSpaceRequest();
     const unsigned long long mib = 1024ULL * 1024ULL;
     query.GetSpaceInfo().used = 0;
-    query.GetSpaceInfo().total = 200 * mib;  // 200 MB left: at most 300, so it asks again
+    query.GetSpaceInfo().total = 200 * mib; // 200 MB left: at most 300, so it asks again
     cloud.ClearLog();
     query.CheckRemainSpace(1);
     EXPECT_EQ(cloud.RequestLog().size(), 1u);

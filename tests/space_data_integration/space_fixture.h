@@ -18,11 +18,12 @@ inline host::HostConfig ConfigFor(const spacemgm_test::CloudEmulator& cloud)
     host::HostConfig config = host::LoadHostConfigFile(cloud.ConfigPath());
     config.dataDir = cloud.WorkDir() + "/data";
     config.logDir = cloud.WorkDir() + "/log";
-    config.timeoutSeconds = 3;  // a hanging request ends the test quickly
+    config.timeoutSeconds = 3; // a hanging request ends the test quickly
     return config;
 }
 
-struct WiredViewModel {
+struct WiredViewModel
+{
     explicit WiredViewModel(host::BackupDeleter deleter = app::DeleteDeviceBackup)
         : hostWindow(std::move(deleter))
     {

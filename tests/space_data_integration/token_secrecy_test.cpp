@@ -77,7 +77,8 @@ void ExpectNothingLoggedHoldsTheToken(const Logger::ScopedMemorySink& sink, cons
     EXPECT_GT(files, 0) << "no log file was written under " << config.logDir;
 }
 
-class TokenSecrecy : public ::testing::Test {
+class TokenSecrecy : public ::testing::Test
+{
 protected:
     void TearDown() override { host::SetCurrentHostConfig(host::DefaultHostConfig()); }
 };
@@ -129,8 +130,8 @@ TEST_F(TokenSecrecy, AFailedTransferDoesNotNameTheToken)
 
     AnyHttpRequest request(url, AnyHttpPost);
     request.SetBaseUrl(url);
-    request.Initialize(AnyHttpPost, {{"Authorization", "Bearer " + token}}, "access_token=" + UrlEncode(token), 3,
-                       3, 0, 0);
+    request.Initialize(AnyHttpPost, {{"Authorization", "Bearer " + token}},
+                       "access_token=" + UrlEncode(token), 3, 3, 0, 0);
     AnyHttpHeaderMap received;
     try {
         request.SendWebRequest(received);

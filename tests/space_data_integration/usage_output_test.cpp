@@ -19,16 +19,17 @@ namespace {
 
 using spacemgm_test::CloudEmulator;
 
-struct ProgramRun {
+struct ProgramRun
+{
     int exitCode = -1;
     std::string output;
 };
 
 ProgramRun RunUsage(const CloudEmulator& cloud, const std::string& arguments)
 {
-    const std::string command = "XDG_DATA_HOME='" + cloud.WorkDir() + "/xdg' '" SPACEMGM_BINARY_DIR
-                                "/bin/spacemgm' usage " +
-                                arguments + " --config '" + cloud.ConfigPath() + "' 2>/dev/null";
+    const std::string command = "XDG_DATA_HOME='" + cloud.WorkDir() +
+                                "/xdg' '" SPACEMGM_BINARY_DIR "/bin/spacemgm' usage " + arguments +
+                                " --config '" + cloud.ConfigPath() + "' 2>/dev/null";
     ProgramRun run;
     FILE* pipe = popen(command.c_str(), "r");
     if (!pipe) {

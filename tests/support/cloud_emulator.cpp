@@ -64,8 +64,8 @@ std::string Compact(const Json::Value& value)
 } // namespace
 
 HttpResult HttpExchange(const std::string& method, const std::string& url,
-                        const std::vector<std::pair<std::string, std::string>>& headers, const std::string& body,
-                        const std::string& caFile, long timeoutMs)
+                        const std::vector<std::pair<std::string, std::string>>& headers,
+                        const std::string& body, const std::string& caFile, long timeoutMs)
 {
     InitCurlOnce();
     HttpResult result;
@@ -113,7 +113,8 @@ std::string CloudEmulator::ExecutablePath()
 
 std::string CloudEmulator::FixturePath(const std::string& nameOrPath)
 {
-    const bool endsInJson = nameOrPath.size() > 5 && nameOrPath.compare(nameOrPath.size() - 5, 5, ".json") == 0;
+    const bool endsInJson =
+        nameOrPath.size() > 5 && nameOrPath.compare(nameOrPath.size() - 5, 5, ".json") == 0;
     if (nameOrPath.find('/') != std::string::npos || endsInJson)
         return nameOrPath;
     return std::string(SPACEMGM_CLOUD_FIXTURES) + "/" + nameOrPath + ".json";
@@ -130,8 +131,9 @@ CloudEmulator::CloudEmulator(Options options) : options_(std::move(options))
     configPath_ = workDir_ + "/spacemgm.json";
     const std::string stderrPath = workDir_ + "/stderr.txt";
 
-    std::vector<std::string> args = {ExecutablePath(), "--port", "0", "--fixture", FixturePath(options_.fixture),
-                                     "--write-config", configPath_};
+    std::vector<std::string> args = {
+        ExecutablePath(), "--port",   "0", "--fixture", FixturePath(options_.fixture),
+        "--write-config", configPath_};
     if (options_.tls)
         args.insert(args.end(), {"--tls", "--ca-file", workDir_ + "/ca.pem"});
     if (!options_.stateFile.empty())
@@ -240,10 +242,11 @@ void CloudEmulator::Kill9()
     pid_ = -1;
 }
 
-Json::Value CloudEmulator::Admin(const std::string& method, const std::string& what, const std::string& body) const
+Json::Value CloudEmulator::Admin(const std::string& method, const std::string& what,
+                                 const std::string& body) const
 {
-    HttpResult r = HttpExchange(method, root_ + "/_admin/" + what, {{"Content-Type", "application/json"}}, body,
-                                caFile_);
+    HttpResult r = HttpExchange(method, root_ + "/_admin/" + what, {{"Content-Type", "application/json"}},
+                                body, caFile_);
     if (r.status != 200)
         throw std::runtime_error("admin " + method + " " + what + " failed: " +
                                  (r.error.empty() ? std::to_string(r.status) + " " + r.body : r.error));

@@ -20,8 +20,8 @@
 // Uses only libcurl, jsoncpp and POSIX: it does not depend on the module.
 #include <map>
 #include <string>
-#include <utility>
 #include <sys/types.h>
+#include <utility>
 #include <vector>
 
 #include <json/json.h>
@@ -112,7 +112,7 @@ struct HttpResult
 };
 
 HttpResult HttpExchange(const std::string& method, const std::string& url,
-                        const std::vector<std::pair<std::string, std::string>>& headers, const std::string& body,
-                        const std::string& caFile = "", long timeoutMs = 10000);
+                        const std::vector<std::pair<std::string, std::string>>& headers,
+                        const std::string& body, const std::string& caFile = "", long timeoutMs = 10000);
 
 } // namespace spacemgm_test

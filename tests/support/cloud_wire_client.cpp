@@ -78,7 +78,8 @@ std::string MakeTraceId(const std::string& code)
 
 std::string CompositeAuthorization(const WireSession& session)
 {
-    return Base64Of("6:" + session.deviceUuid + ":com.zephra.cloud.pc::" + ClientUrlEncode(session.accessToken));
+    return Base64Of("6:" + session.deviceUuid +
+                    ":com.zephra.cloud.pc::" + ClientUrlEncode(session.accessToken));
 }
 
 static HeaderList CommonHeaders(const WireSession& s)
@@ -101,7 +102,8 @@ static HeaderList CommonHeaders(const WireSession& s)
         h.emplace_back("userId", s.userId);
     if (!s.country.empty()) {
         std::string lower = s.country;
-        std::transform(lower.begin(), lower.end(), lower.begin(), [](unsigned char c) { return std::tolower(c); });
+        std::transform(lower.begin(), lower.end(), lower.begin(),
+                       [](unsigned char c) { return std::tolower(c); });
         h.emplace_back("x-zp-country-code", lower);
     }
     return h;
@@ -152,14 +154,16 @@ void SetHeader(HeaderList& headers, const std::string& name, const std::string& 
 
 void RemoveHeader(HeaderList& headers, const std::string& name)
 {
-    headers.erase(std::remove_if(headers.begin(), headers.end(), [&](const auto& h) { return h.first == name; }),
-                  headers.end());
+    headers.erase(
+        std::remove_if(headers.begin(), headers.end(), [&](const auto& h) { return h.first == name; }),
+        headers.end());
 }
 
 std::string QuotaForm(const std::string& token, const std::string& q, const std::string& serviceType)
 {
-    return "nsp_svc=" + ClientUrlEncode("nsp.user.getQuotaUsedInfo") + "&accessToken=" + ClientUrlEncode(token) +
-           "&q=" + ClientUrlEncode(q) + "&serviceType=" + ClientUrlEncode(serviceType);
+    return "nsp_svc=" + ClientUrlEncode("nsp.user.getQuotaUsedInfo") +
+           "&accessToken=" + ClientUrlEncode(token) + "&q=" + ClientUrlEncode(q) +
+           "&serviceType=" + ClientUrlEncode(serviceType);
 }
 
 std::string ListText(const std::vector<std::string>& items)

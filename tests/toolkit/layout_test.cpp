@@ -6,7 +6,8 @@ using namespace uitest;
 
 namespace {
 
-class LayoutTest : public ::testing::Test {
+class LayoutTest : public ::testing::Test
+{
 protected:
     void SetUp() override { UseOffscreenToolkit(); }
 };
@@ -21,7 +22,7 @@ void ExpectRect(CControlUI* c, int l, int t, int r, int b)
     EXPECT_EQ(pos.bottom, b) << attr::Narrow(c->GetName().str());
 }
 
-}  // namespace
+} // namespace
 
 TEST_F(LayoutTest, FixedAndAutomaticSizesInNestedContainers)
 {
@@ -172,7 +173,8 @@ TEST_F(LayoutTest, FindControlByPointTakesTheDeepestVisibleControl)
 
 TEST_F(LayoutTest, MoveWindowResizesTheClientAndRelaysOut)
 {
-    SkinWindow w(LR"(<Window size="200,100"><HorizontalLayout name="root"><Control name="a" /></HorizontalLayout></Window>)");
+    SkinWindow w(
+        LR"(<Window size="200,100"><HorizontalLayout name="root"><Control name="a" /></HorizontalLayout></Window>)");
     ASSERT_TRUE(Open(w));
     ASSERT_TRUE(::MoveWindow(w.GetHWND(), 0, 0, 320, 90, TRUE));
     RECT client{};

@@ -15,7 +15,8 @@ constexpr const wchar_t* kRowSkin = LR"(<ListContainerElement height="40">
   <HorizontalLayout><Label name="itemName" /><Button name="btn_del" width="40" text="x" /></HorizontalLayout>
 </ListContainerElement>)";
 
-class ListTest : public ::testing::Test {
+class ListTest : public ::testing::Test
+{
 protected:
     void SetUp() override
     {
@@ -35,7 +36,8 @@ protected:
         CDialogBuilder builder;
         CControlUI* row = builder.Create(kRowSkin, nullptr, nullptr, &window.pm());
         EXPECT_NE(row, nullptr);
-        if (row == nullptr) return nullptr;
+        if (row == nullptr)
+            return nullptr;
         window.pm().FindSubControlByName(row, L"itemName")->SetText(name);
         EXPECT_TRUE(list->Add(row));
         return row;
@@ -45,7 +47,8 @@ protected:
     {
         std::vector<SeenNotify> out;
         for (const auto& n : window.notifications) {
-            if (n.type == L"itemselect") out.push_back(n);
+            if (n.type == L"itemselect")
+                out.push_back(n);
         }
         return out;
     }
@@ -54,7 +57,7 @@ protected:
     CListUI* list = nullptr;
 };
 
-}  // namespace
+} // namespace
 
 TEST_F(ListTest, AddCountsAndIndexesRows)
 {
@@ -192,7 +195,8 @@ TEST_F(ListTest, AButtonMayRemoveItsOwnRowFromItsClick)
 
 TEST_F(ListTest, WheelScrollsAndSelectionScrollsIntoView)
 {
-    for (int i = 0; i < 20; ++i) AddRow(L"row");
+    for (int i = 0; i < 20; ++i)
+        AddRow(L"row");
     window.pm().UpdateLayoutIfNeeded();
     EXPECT_EQ(list->GetScrollPos(), 0);
     EXPECT_EQ(list->GetScrollRange(), 20 * 40 - 200);

@@ -7,12 +7,13 @@ using namespace uitest;
 
 namespace {
 
-class RenderTest : public ::testing::Test {
+class RenderTest : public ::testing::Test
+{
 protected:
     void SetUp() override { UseOffscreenToolkit(); }
 };
 
-}  // namespace
+} // namespace
 
 TEST_F(RenderTest, BackgroundColoursLandWhereTheLayoutPutsThem)
 {
@@ -24,8 +25,8 @@ TEST_F(RenderTest, BackgroundColoursLandWhereTheLayoutPutsThem)
     Snapshot shot(w.pm());
     EXPECT_EQ(shot.Pixel(25, 50), 0xFFFF0000u);
     EXPECT_EQ(shot.Pixel(85, 50), 0xFF0000FFu);
-    EXPECT_EQ(shot.Pixel(85, 5), 0xFFFFFFFFu);   // above the padded control
-    EXPECT_EQ(shot.Pixel(55, 50), 0xFFFFFFFFu);  // its left padding
+    EXPECT_EQ(shot.Pixel(85, 5), 0xFFFFFFFFu);  // above the padded control
+    EXPECT_EQ(shot.Pixel(55, 50), 0xFFFFFFFFu); // its left padding
     EXPECT_EQ(shot.Pixel(150, 50), 0xFFFFFFFFu);
     EXPECT_TRUE(shot.WritePng(OutputPath("colours.png")));
     w.Close(0);
@@ -76,7 +77,7 @@ TEST_F(RenderTest, ProgressFillsInProportionToItsValue)
     EXPECT_EQ(p->GetFilledWidth(), 50);
     EXPECT_EQ(shot.Pixel(25, 10), 0xFF3D7BFFu);
     EXPECT_EQ(shot.Pixel(75, 10), 0xFFDDDDDDu);
-    p->SetValue(500);  // above max: full
+    p->SetValue(500); // above max: full
     Snapshot full(w.pm());
     EXPECT_EQ(full.Pixel(195, 10), 0xFF3D7BFFu);
     w.Close(0);
@@ -93,8 +94,8 @@ TEST_F(RenderTest, RoundRectDirectionOneRoundsOnlyTheLeftEnd)
     p->SetBorderRound(SIZE{10, 10});
     p->SetRoundRectDirection(1);
     Snapshot left(w.pm());
-    EXPECT_EQ(left.Pixel(0, 0), 0xFFFFFFFFu);   // rounded away
-    EXPECT_EQ(left.Pixel(99, 0), 0xFF000000u);  // square corner
+    EXPECT_EQ(left.Pixel(0, 0), 0xFFFFFFFFu);  // rounded away
+    EXPECT_EQ(left.Pixel(99, 0), 0xFF000000u); // square corner
     EXPECT_EQ(left.Pixel(50, 10), 0xFF000000u);
     // A rounded corner is anti-aliased: a pixel on the arc is grey.
     const std::uint32_t edge = left.Pixel(1, 1);
@@ -135,7 +136,7 @@ TEST_F(RenderTest, SvgAndPngImagesAreDrawn)
     Snapshot shot(w.pm());
     EXPECT_EQ(shot.Pixel(25, 25), 0xFF1E88E5u);
     EXPECT_EQ(shot.Pixel(75, 25), 0xFFE53935u);
-    EXPECT_EQ(shot.Pixel(52, 2), 0xFFFFFFFFu);  // outside dest
+    EXPECT_EQ(shot.Pixel(52, 2), 0xFFFFFFFFu); // outside dest
     w.Close(0);
     Pump(10);
 }

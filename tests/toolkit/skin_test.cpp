@@ -8,7 +8,8 @@ using namespace uitest;
 
 namespace {
 
-class SkinTest : public ::testing::Test {
+class SkinTest : public ::testing::Test
+{
 protected:
     void SetUp() override { UseOffscreenToolkit(); }
 
@@ -22,20 +23,23 @@ protected:
     }
 };
 
-class RowCallback : public IDialogBuilderCallback {
+class RowCallback : public IDialogBuilderCallback
+{
 public:
     CControlUI* CreateControl(LPCTSTR name) override
     {
-        if (CompareNoCase(name, L"ListItemS") == 0) return new CListContainerElementUI;
+        if (CompareNoCase(name, L"ListItemS") == 0)
+            return new CListContainerElementUI;
         return nullptr;
     }
 };
 
-}  // namespace
+} // namespace
 
 TEST_F(SkinTest, UnknownElementNamesFileLineAndElement)
 {
-    const auto error = ErrorOf(L"<Window size=\"10,10\">\n<VerticalLayout>\n  <Slider name=\"s\" />\n</VerticalLayout></Window>");
+    const auto error = ErrorOf(
+        L"<Window size=\"10,10\">\n<VerticalLayout>\n  <Slider name=\"s\" />\n</VerticalLayout></Window>");
     ASSERT_TRUE(error.has_value());
     EXPECT_EQ(error->file, "<string>");
     EXPECT_EQ(error->line, 3);
@@ -87,7 +91,8 @@ TEST_F(SkinTest, MissingFileIsAnErrorNamingThePath)
 TEST_F(SkinTest, ErrorInAFileNamesTheFile)
 {
     const std::string path = OutputPath("broken_skin.xml");
-    std::ofstream(path) << "<Window>\n<VerticalLayout>\n<Label textcolor=\"blue\" />\n</VerticalLayout>\n</Window>\n";
+    std::ofstream(path)
+        << "<Window>\n<VerticalLayout>\n<Label textcolor=\"blue\" />\n</VerticalLayout>\n</Window>\n";
     CDialogBuilder builder;
     EXPECT_EQ(builder.Create(attr::Widen(path).c_str()), nullptr);
     ASSERT_TRUE(builder.GetError().has_value());
@@ -108,11 +113,12 @@ TEST_F(SkinTest, FontsDefaultsAndWindowAttributesAreApplied)
 {
     CDialogBuilder builder;
     CPaintManagerUI pm;
-    std::unique_ptr<CControlUI> root(builder.Create(LR"(<Window size="640,480" roundcorner="8,8" mininfo="320,200">
+    std::unique_ptr<CControlUI> root(
+        builder.Create(LR"(<Window size="640,480" roundcorner="8,8" mininfo="320,200">
         <Font id="3" name="DejaVu Sans" size="20" bold="true" />
         <Default name="Button" value="bkcolor=&quot;#FF010203&quot; height=&quot;30&quot;" />
         <VerticalLayout><Button name="b" /></VerticalLayout></Window>)",
-                                                    nullptr, nullptr, &pm));
+                       nullptr, nullptr, &pm));
     ASSERT_NE(root, nullptr) << builder.GetError()->ToString();
     EXPECT_EQ(pm.GetInitSize().cx, 640);
     EXPECT_EQ(pm.GetRoundCorner().cx, 8);
@@ -129,7 +135,8 @@ TEST_F(SkinTest, FontsDefaultsAndWindowAttributesAreApplied)
 
 TEST_F(SkinTest, BadDefaultValueIsReportedAtTheDefaultElement)
 {
-    const auto error = ErrorOf(L"<Window>\n<Default name=\"Label\" value=\"textcolor=&quot;x&quot;\" />\n<Label /></Window>");
+    const auto error = ErrorOf(
+        L"<Window>\n<Default name=\"Label\" value=\"textcolor=&quot;x&quot;\" />\n<Label /></Window>");
     ASSERT_TRUE(error.has_value());
     EXPECT_EQ(error->line, 2);
     EXPECT_EQ(error->name, L"textcolor");
@@ -141,8 +148,8 @@ TEST_F(SkinTest, CustomClassesComeFromTheCallback)
     CDialogBuilder builder;
     CPaintManagerUI pm;
     std::unique_ptr<CControlUI> row(builder.Create(
-        L"<ListItemS height=\"40\" virtualwnd=\"BackupPage\"><Label name=\"itemName\" /></ListItemS>", nullptr, &callback,
-        &pm));
+        L"<ListItemS height=\"40\" virtualwnd=\"BackupPage\"><Label name=\"itemName\" /></ListItemS>",
+        nullptr, &callback, &pm));
     ASSERT_NE(row, nullptr);
     EXPECT_NE(row->GetInterface(L"ListItem"), nullptr);
     EXPECT_EQ(row->GetFixedHeight(), 40);

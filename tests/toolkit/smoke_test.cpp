@@ -30,23 +30,26 @@ std::string ReadFile(const std::string& path)
 std::uint32_t BigEndian32(const std::string& data, std::size_t offset)
 {
     std::uint32_t value = 0;
-    for (std::size_t i = 0; i < 4; ++i) value = (value << 8) | static_cast<unsigned char>(data[offset + i]);
+    for (std::size_t i = 0; i < 4; ++i)
+        value = (value << 8) | static_cast<unsigned char>(data[offset + i]);
     return value;
 }
 
 // Reads the 24/32-bit ZPixmap screen dump that `xwd -root` writes and saves
 // it as a PNG; returns the pixel reader for probes, or false.
-struct Screen {
+struct Screen
+{
     int width = 0;
     int height = 0;
-    std::vector<std::uint32_t> pixels;  // 0x00RRGGBB
+    std::vector<std::uint32_t> pixels; // 0x00RRGGBB
     std::uint32_t At(int x, int y) const { return pixels[static_cast<std::size_t>(y) * width + x]; }
 };
 
 bool ReadXwd(const std::string& path, Screen& screen)
 {
     const std::string data = ReadFile(path);
-    if (data.size() < 100) return false;
+    if (data.size() < 100)
+        return false;
     const std::uint32_t headerSize = BigEndian32(data, 0);
     const std::uint32_t format = BigEndian32(data, 8);
     const std::uint32_t byteOrder = BigEndian32(data, 28);
@@ -56,18 +59,24 @@ bool ReadXwd(const std::string& path, Screen& screen)
     screen.width = static_cast<int>(BigEndian32(data, 16));
     screen.height = static_cast<int>(BigEndian32(data, 20));
     // Packed 24-bit pixels (lines padded) or 32-bit ones.
-    if (format != 2 || (bitsPerPixel != 24 && bitsPerPixel != 32) || screen.width <= 0) return false;
+    if (format != 2 || (bitsPerPixel != 24 && bitsPerPixel != 32) || screen.width <= 0)
+        return false;
     const std::size_t bytesPerPixel = bitsPerPixel / 8;
     const std::size_t start = headerSize + colours * 12u;
-    if (data.size() < start + static_cast<std::size_t>(bytesPerLine) * screen.height) return false;
+    if (data.size() < start + static_cast<std::size_t>(bytesPerLine) * screen.height)
+        return false;
     screen.pixels.resize(static_cast<std::size_t>(screen.width) * screen.height);
     for (int y = 0; y < screen.height; ++y) {
         for (int x = 0; x < screen.width; ++x) {
-            const std::size_t at = start + static_cast<std::size_t>(y) * bytesPerLine + static_cast<std::size_t>(x) * bytesPerPixel;
-            const auto b = [&](std::size_t i) { return static_cast<std::uint32_t>(static_cast<unsigned char>(data[at + i])); };
+            const std::size_t at = start + static_cast<std::size_t>(y) * bytesPerLine +
+                                   static_cast<std::size_t>(x) * bytesPerPixel;
+            const auto b = [&](std::size_t i) {
+                return static_cast<std::uint32_t>(static_cast<unsigned char>(data[at + i]));
+            };
             screen.pixels[static_cast<std::size_t>(y) * screen.width + x] =
                 byteOrder == 0 ? (b(2) << 16 | b(1) << 8 | b(0))
-                               : (bytesPerPixel == 4 ? (b(1) << 16 | b(2) << 8 | b(3)) : (b(0) << 16 | b(1) << 8 | b(2)));
+                               : (bytesPerPixel == 4 ? (b(1) << 16 | b(2) << 8 | b(3))
+                                                     : (b(0) << 16 | b(1) << 8 | b(2)));
         }
     }
     return true;
@@ -94,20 +103,23 @@ bool ControlPosition(const std::string& output, const std::string& name, int& x,
 {
     const std::string key = "gallery: control " + name + " ";
     const auto at = output.find(key);
-    if (at == std::string::npos) return false;
+    if (at == std::string::npos)
+        return false;
     std::istringstream in(output.substr(at + key.size()));
     return static_cast<bool>(in >> x >> y);
 }
 
-}  // namespace
+} // namespace
 
 TEST(GallerySmoke, ButtonClickedWithXdotoolInARealWindow)
 {
 #ifndef TOOLKIT_GALLERY_PATH
     GTEST_SKIP() << "toolkit-gallery is not built";
 #else
-    if (!OnPath("xvfb-run")) GTEST_SKIP() << "xvfb-run is not installed; the smoke test needs it";
-    if (!OnPath("xdotool")) GTEST_SKIP() << "xdotool is not installed; the smoke test needs it";
+    if (!OnPath("xvfb-run"))
+        GTEST_SKIP() << "xvfb-run is not installed; the smoke test needs it";
+    if (!OnPath("xdotool"))
+        GTEST_SKIP() << "xdotool is not installed; the smoke test needs it";
     const std::filesystem::path dir = std::filesystem::path(SPACEMGM_BINARY_DIR) / "test-output" / "toolkit";
     std::filesystem::create_directories(dir);
     const std::string log = (dir / "smoke_gallery.log").string();

@@ -6,12 +6,13 @@ using namespace uitest;
 
 namespace {
 
-class TextTest : public ::testing::Test {
+class TextTest : public ::testing::Test
+{
 protected:
     void SetUp() override { UseOffscreenToolkit(); }
 };
 
-}  // namespace
+} // namespace
 
 TEST_F(TextTest, LongerTextMeasuresWider)
 {
@@ -118,7 +119,8 @@ TEST_F(TextTest, DuiStringHelpers)
 
 TEST_F(TextTest, GetTextFallsBackToEnglishThenToTheKey)
 {
-    CPaintManagerUI::SetInstancePath(attr::Widen(std::string(SPACEMGM_SOURCE_DIR) + "/tests/toolkit/fixtures").c_str());
+    CPaintManagerUI::SetInstancePath(
+        attr::Widen(std::string(SPACEMGM_SOURCE_DIR) + "/tests/toolkit/fixtures").c_str());
     auto* res = CResourceManager::GetInstance();
     res->ReloadText();
     res->SetLanguage(L"ru-RU");
@@ -135,12 +137,14 @@ TEST_F(TextTest, GetTextFallsBackToEnglishThenToTheKey)
 
 TEST_F(TextTest, SkinTextsWithKeysAreLookedUp)
 {
-    CPaintManagerUI::SetInstancePath(attr::Widen(std::string(SPACEMGM_SOURCE_DIR) + "/tests/toolkit/fixtures").c_str());
+    CPaintManagerUI::SetInstancePath(
+        attr::Widen(std::string(SPACEMGM_SOURCE_DIR) + "/tests/toolkit/fixtures").c_str());
     CResourceManager::GetInstance()->ReloadText();
     CResourceManager::GetInstance()->SetLanguage(L"en-US");
     CDialogBuilder builder;
     CPaintManagerUI pm;
-    std::unique_ptr<CControlUI> label(builder.Create(L"<Label text=\"%[IDS_FIXTURE_GREETING]\" />", nullptr, nullptr, &pm));
+    std::unique_ptr<CControlUI> label(
+        builder.Create(L"<Label text=\"%[IDS_FIXTURE_GREETING]\" />", nullptr, nullptr, &pm));
     ASSERT_NE(label, nullptr);
     EXPECT_EQ(label->GetText(), L"Hello");
     CResourceManager::GetInstance()->ReloadText();

@@ -15,14 +15,15 @@ constexpr const wchar_t* kTwoButtons = LR"(<Window size="300,120">
     <Button name="other" text="Other" width="100" virtualwnd="Page" />
   </HorizontalLayout></Window>)";
 
-class WindowTest : public ::testing::Test {
+class WindowTest : public ::testing::Test
+{
 protected:
     void SetUp() override { UseOffscreenToolkit(); }
 };
 
 constexpr UINT_PTR kDriveTimer = 41;
 
-}  // namespace
+} // namespace
 
 TEST_F(WindowTest, ShowModalReturnsTheCodeGivenToClose)
 {
@@ -36,7 +37,8 @@ TEST_F(WindowTest, ShowModalReturnsTheCodeGivenToClose)
         return 0;
     };
     w.onNotify = [&w](TNotifyUI& msg) {
-        if (msg.sType == L"click" && msg.pSender->GetName() == L"ok") w.Close(7);
+        if (msg.sType == L"click" && msg.pSender->GetName() == L"ok")
+            w.Close(7);
     };
     ::SetTimer(w.GetHWND(), kDriveTimer, 20, nullptr);
     EXPECT_EQ(w.ShowModal(), 7u);
@@ -76,8 +78,9 @@ TEST_F(WindowTest, MessageBoxOverAWindowReturnsOneForTheFirstButton)
         return 0;
     };
     ::SetTimer(parent.GetHWND(), kDriveTimer, 20, nullptr);
-    const int result = UIIMessageBox::PopMessageBox(parent.GetHWND(), L"Delete?", L"The backup of this device",
-                                                    L"Delete", L"Cancel", 2, nullptr, true, true, false);
+    const int result =
+        UIIMessageBox::PopMessageBox(parent.GetHWND(), L"Delete?", L"The backup of this device", L"Delete",
+                                     L"Cancel", 2, nullptr, true, true, false);
     EXPECT_EQ(result, 1);
     EXPECT_EQ(UIIMessageBox::GetActiveBox(), nullptr);
     // Centred over the parent.
@@ -115,7 +118,8 @@ TEST_F(WindowTest, MessageBoxSpacePressesTheFocusedFirstButton)
     parent.onMessage = [&](UINT msg, WPARAM wParam, LPARAM, bool&) -> LRESULT {
         if (msg == WM_TIMER && wParam == kDriveTimer) {
             ::KillTimer(parent.GetHWND(), kDriveTimer);
-            if (HWND box = UIIMessageBox::GetActiveBox()) PressKey(box, VK_SPACE);
+            if (HWND box = UIIMessageBox::GetActiveBox())
+                PressKey(box, VK_SPACE);
         }
         return 0;
     };
@@ -132,7 +136,8 @@ TEST_F(WindowTest, EscapeCancelsAMessageBox)
     parent.onMessage = [&](UINT msg, WPARAM wParam, LPARAM, bool&) -> LRESULT {
         if (msg == WM_TIMER && wParam == kDriveTimer) {
             ::KillTimer(parent.GetHWND(), kDriveTimer);
-            if (HWND box = UIIMessageBox::GetActiveBox()) PressKey(box, VK_ESCAPE);
+            if (HWND box = UIIMessageBox::GetActiveBox())
+                PressKey(box, VK_ESCAPE);
         }
         return 0;
     };
@@ -152,7 +157,8 @@ TEST_F(WindowTest, ParentIgnoresClicksWhileTheBoxIsUp)
             const POINT p = CentreOf(parent.pm(), parent.pm().FindControl(L"ok"));
             ::PostMessageW(parent.GetHWND(), WM_LBUTTONDOWN, 0, MAKELPARAM(p.x, p.y));
             ::PostMessageW(parent.GetHWND(), WM_LBUTTONUP, 0, MAKELPARAM(p.x, p.y));
-            if (HWND box = UIIMessageBox::GetActiveBox()) ::PostMessageW(box, WM_KEYDOWN, VK_ESCAPE, 0);
+            if (HWND box = UIIMessageBox::GetActiveBox())
+                ::PostMessageW(box, WM_KEYDOWN, VK_ESCAPE, 0);
         }
         return 0;
     };
@@ -187,12 +193,15 @@ TEST_F(WindowTest, TimersFireUntilKilled)
 
 TEST_F(WindowTest, ControlTimerReachesTheControlAsAnEvent)
 {
-    struct Counter : CControlUI {
+    struct Counter : CControlUI
+    {
         int ticks = 0;
         void DoEvent(TEventUI& e) override
         {
-            if (e.Type == UIEVENT_TIMER && e.wParam == 9) ++ticks;
-            else CControlUI::DoEvent(e);
+            if (e.Type == UIEVENT_TIMER && e.wParam == 9)
+                ++ticks;
+            else
+                CControlUI::DoEvent(e);
         }
     };
     SkinWindow w(LR"(<Window size="100,100"><HorizontalLayout name="root" /></Window>)");
@@ -213,7 +222,8 @@ TEST_F(WindowTest, SendMessageFromAnotherThreadRunsOnTheWindowThread)
     const DWORD windowThread = ::GetCurrentThreadId();
     std::atomic<DWORD> ranOn{0};
     w.onMessage = [&ranOn](UINT msg, WPARAM wParam, LPARAM, bool& handled) -> LRESULT {
-        if (msg != WM_USER + 7) return 0;
+        if (msg != WM_USER + 7)
+            return 0;
         ranOn = ::GetCurrentThreadId();
         handled = true;
         return static_cast<LRESULT>(wParam * 2);
@@ -234,7 +244,8 @@ TEST_F(WindowTest, SendMessageFromAnotherThreadRunsOnTheWindowThread)
 
 namespace {
 
-class PagePump : public CNotifyPump {
+class PagePump : public CNotifyPump
+{
 public:
     int clicks = 0;
     std::wstring lastSender;
@@ -250,7 +261,7 @@ DUI_BEGIN_MESSAGE_MAP(PagePump)
 DUI_ON_MSGTYPE(DUI_MSGTYPE_CLICK, PagePump::OnClick)
 DUI_END_MESSAGE_MAP()
 
-}  // namespace
+} // namespace
 
 TEST_F(WindowTest, VirtualWindowReceivesClicksOfItsControls)
 {
@@ -291,7 +302,8 @@ TEST_F(WindowTest, PressAndReleaseOutsideTheButtonIsNoClick)
 
 TEST_F(WindowTest, PreMessageFilterCanTakeAMessage)
 {
-    struct Filter : IMessageFilterUI {
+    struct Filter : IMessageFilterUI
+    {
         int seen = 0;
         LRESULT MessageHandler(UINT uMsg, WPARAM, LPARAM, bool& bHandled) override
         {
@@ -318,12 +330,14 @@ TEST_F(WindowTest, PreMessageFilterCanTakeAMessage)
 
 TEST_F(WindowTest, TabSelectionFromAnotherThreadRunsOnTheWindowThread)
 {
-    SkinWindow w(LR"(<Window size="100,50"><TabLayout name="tabs"><Control /><Control /></TabLayout></Window>)");
+    SkinWindow w(
+        LR"(<Window size="100,50"><TabLayout name="tabs"><Control /><Control /></TabLayout></Window>)");
     ASSERT_TRUE(Open(w));
     const DWORD windowThread = ::GetCurrentThreadId();
     DWORD notifiedOn = 0;
     w.onNotify = [&notifiedOn](TNotifyUI& msg) {
-        if (msg.sType == L"tabselect") notifiedOn = ::GetCurrentThreadId();
+        if (msg.sType == L"tabselect")
+            notifiedOn = ::GetCurrentThreadId();
     };
     auto* tabs = Find<CTabLayoutUI>(w.pm(), L"tabs");
     std::atomic<bool> done{false};

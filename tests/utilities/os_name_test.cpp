@@ -39,7 +39,8 @@ const OsRow kRows[] = {
     {"WindowsMe", Version(4, 90), L"Microsoft Windows Me 4.90.1234.1"},
     {"Windows2000", Version(5, 0), L"Microsoft Windows 2000 5.0.1234.1"},
     {"WindowsXP", Version(5, 1), L"Microsoft Windows XP 5.1.1234.1"},
-    {"XPx64", With(Version(5, 3, 1), 2, true, 0), L"Microsoft Windows XP Professional x64 Edition 5.3.1234.1"},
+    {"XPx64", With(Version(5, 3, 1), 2, true, 0),
+     L"Microsoft Windows XP Professional x64 Edition 5.3.1234.1"},
     {"Server2003", With(Version(5, 3, 3), 2, true, 0), L"Microsoft Windows Server 2003 5.3.1234.1"},
     {"Server2003R2", With(Version(5, 3, 3), 2, false, 1), L"Microsoft Windows Server 2003 R2 5.3.1234.1"},
     {"Real52ServerMatchesNoRow", With(Version(5, 2, 3), 2, false, 0), L"Unknow Platform"},
@@ -70,7 +71,9 @@ TEST_P(OsNameTable, NameAndVersion)
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, OsNameTable, ::testing::ValuesIn(kRows),
-                         [](const ::testing::TestParamInfo<OsRow>& info) { return std::string(info.param.label); });
+                         [](const ::testing::TestParamInfo<OsRow>& info) {
+                             return std::string(info.param.label);
+                         });
 
 TEST(OsName, Windows10WorkstationBuild19045)
 {

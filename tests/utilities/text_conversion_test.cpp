@@ -29,7 +29,8 @@ std::string Utf8Of(uint32_t cp)
 
 TEST(TextConversion, EveryPlaneRoundTripsThroughUtf8)
 {
-    std::vector<uint32_t> samples = {0x41, 0x7F, 0x80, 0x7FF, 0x800, 0xD7FF, 0xE000, 0xFFFD, 0xFFFF, 0x10000, 0x10FFFF};
+    std::vector<uint32_t> samples = {0x41,   0x7F,   0x80,   0x7FF,   0x800,   0xD7FF,
+                                     0xE000, 0xFFFD, 0xFFFF, 0x10000, 0x10FFFF};
     for (uint32_t plane = 1; plane <= 16; ++plane) {
         samples.push_back(plane << 16);
         samples.push_back((plane << 16) | 0x1234);
@@ -51,7 +52,8 @@ TEST(TextConversion, MixedTextRoundTrips)
 {
     const std::wstring text = L"Gr\u00fc\u00dfe \u4e91\u7a7a\u95f4 \U0001F600!";
     const std::string utf8 = WideToUtf8(text);
-    EXPECT_EQ(utf8, "Gr\xC3\xBC\xC3\x9F" "e \xE4\xBA\x91\xE7\xA9\xBA\xE9\x97\xB4 \xF0\x9F\x98\x80!");
+    EXPECT_EQ(utf8, "Gr\xC3\xBC\xC3\x9F"
+                    "e \xE4\xBA\x91\xE7\xA9\xBA\xE9\x97\xB4 \xF0\x9F\x98\x80!");
     std::wstring back;
     ASSERT_TRUE(NarrowToWide(utf8, back, kCodePageUtf8));
     EXPECT_EQ(back, text);
@@ -90,7 +92,7 @@ TEST(TextConversion, MalformedUtf8IsRejected)
         "\xF4\x90\x80\x80",     // U+110000
         "\xF8\x88\x80\x80\x80", // five-byte form
         "\xFF",
-        "\xC3\x28",             // lead followed by a non-continuation
+        "\xC3\x28", // lead followed by a non-continuation
     };
     for (const auto& text : malformed) {
         SCOPED_TRACE(::testing::PrintToString(text));

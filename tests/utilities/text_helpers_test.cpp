@@ -35,7 +35,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 INSTANTIATE_TEST_SUITE_P(OtherLanguages, PluralKeyTable,
                          ::testing::Values(PluralRow{L"en-US", 0, L"_ONE"}, PluralRow{L"en-US", 1, L"_ONE"},
-                                           PluralRow{L"en-US", 2, L"_OTHER"}, PluralRow{L"en-US", -3, L"_ONE"},
+                                           PluralRow{L"en-US", 2, L"_OTHER"},
+                                           PluralRow{L"en-US", -3, L"_ONE"},
                                            PluralRow{L"de-DE", 21, L"_OTHER"}, PluralRow{L"", 1, L"_ONE"}));
 
 TEST(PluralKey, RussianElevenTakesOther)
@@ -72,8 +73,13 @@ TEST(UrlEncode, UnreservedCharactersStayAndOthersAreEscaped)
 TEST(Base64Encode, Rfc4648TestVectors)
 {
     const std::pair<const char*, const char*> vectors[] = {
-        {"", ""},         {"f", "Zg=="},         {"fo", "Zm8="},         {"foo", "Zm9v"},
-        {"foob", "Zm9vYg=="}, {"fooba", "Zm9vYmE="}, {"foobar", "Zm9vYmFy"},
+        {"", ""},
+        {"f", "Zg=="},
+        {"fo", "Zm8="},
+        {"foo", "Zm9v"},
+        {"foob", "Zm9vYg=="},
+        {"fooba", "Zm9vYmE="},
+        {"foobar", "Zm9vYmFy"},
     };
     for (const auto& [input, expected] : vectors) {
         EXPECT_EQ(Base64Encode(input, static_cast<int>(std::strlen(input))), expected) << input;
@@ -101,7 +107,8 @@ TEST(ReplaceNoCase, InsertedTextIsNotSearchedAgain)
     EXPECT_EQ(text, "aaXaa");
     std::string grow = "AbAb";
     ReplaceNoCase("ab", "abab", grow);
-    EXPECT_EQ(grow, "ababab" "ab");
+    EXPECT_EQ(grow, "ababab"
+                    "ab");
 }
 
 TEST(ReplaceNoCase, EmptyFromOrTextDoesNothing)
@@ -231,7 +238,8 @@ TEST(FindLastOf, FindsTheLastByteOfTheSet)
     EXPECT_EQ(FindLastOf(text, 7, "xyz", 3), std::string::npos);
     EXPECT_EQ(FindLastOf(text, 0, "/", 1), std::string::npos);
     EXPECT_EQ(FindLastOf(text, 7, "/", 0), std::string::npos);
-    const char high[] = "a\xFF" "b";
+    const char high[] = "a\xFF"
+                        "b";
     EXPECT_EQ(FindLastOf(high, 3, "\xFF", 1), 1u);
 }
 

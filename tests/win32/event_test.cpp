@@ -10,16 +10,20 @@
 namespace {
 
 // Closes the handle when the test ends, whatever it asserted.
-struct EventHandle {
+struct EventHandle
+{
     HANDLE handle;
     explicit EventHandle(BOOL manualReset, BOOL initialState = FALSE)
-        : handle(CreateEventW(nullptr, manualReset, initialState, nullptr)) {}
+        : handle(CreateEventW(nullptr, manualReset, initialState, nullptr))
+    {
+    }
     ~EventHandle() { CloseHandle(handle); }
 };
 
-}  // namespace
+} // namespace
 
-TEST(WaitForSingleObject, TimesOutOnAnUnsignalledEvent) {
+TEST(WaitForSingleObject, TimesOutOnAnUnsignalledEvent)
+{
     EventHandle event(FALSE);
     ASSERT_NE(event.handle, nullptr);
     const auto start = std::chrono::steady_clock::now();
@@ -27,14 +31,16 @@ TEST(WaitForSingleObject, TimesOutOnAnUnsignalledEvent) {
     EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(50));
 }
 
-TEST(WaitForSingleObject, ZeroTimeoutOnlyTests) {
+TEST(WaitForSingleObject, ZeroTimeoutOnlyTests)
+{
     EventHandle event(TRUE);
     EXPECT_EQ(WaitForSingleObject(event.handle, 0), WAIT_TIMEOUT);
     SetEvent(event.handle);
     EXPECT_EQ(WaitForSingleObject(event.handle, 0), WAIT_OBJECT_0);
 }
 
-TEST(WaitForSingleObject, InfiniteWaitEndsWhenAnotherThreadSets) {
+TEST(WaitForSingleObject, InfiniteWaitEndsWhenAnotherThreadSets)
+{
     EventHandle event(FALSE);
     std::thread setter([&] {
         Sleep(30);
@@ -44,27 +50,31 @@ TEST(WaitForSingleObject, InfiniteWaitEndsWhenAnotherThreadSets) {
     setter.join();
 }
 
-TEST(WaitForSingleObject, SignalledBeforeTheWaitIsNotLost) {
+TEST(WaitForSingleObject, SignalledBeforeTheWaitIsNotLost)
+{
     EventHandle event(FALSE);
     SetEvent(event.handle);
     EXPECT_EQ(WaitForSingleObject(event.handle, INFINITE), WAIT_OBJECT_0);
 }
 
-TEST(CreateEvent, InitiallySignalled) {
+TEST(CreateEvent, InitiallySignalled)
+{
     EventHandle event(FALSE, TRUE);
     EXPECT_EQ(WaitForSingleObject(event.handle, 0), WAIT_OBJECT_0);
     EXPECT_EQ(WaitForSingleObject(event.handle, 0), WAIT_TIMEOUT);
 }
 
-TEST(AutoResetEvent, OneSignalReleasesOneWait) {
+TEST(AutoResetEvent, OneSignalReleasesOneWait)
+{
     EventHandle event(FALSE);
     SetEvent(event.handle);
-    SetEvent(event.handle);  // signals do not add up
+    SetEvent(event.handle); // signals do not add up
     EXPECT_EQ(WaitForSingleObject(event.handle, 0), WAIT_OBJECT_0);
     EXPECT_EQ(WaitForSingleObject(event.handle, 20), WAIT_TIMEOUT);
 }
 
-TEST(AutoResetEvent, OneSignalWakesOnlyOneOfTwoWaiters) {
+TEST(AutoResetEvent, OneSignalWakesOnlyOneOfTwoWaiters)
+{
     EventHandle event(FALSE);
     std::atomic<int> released{0};
     std::vector<std::thread> waiters;
@@ -83,7 +93,8 @@ TEST(AutoResetEvent, OneSignalWakesOnlyOneOfTwoWaiters) {
     EXPECT_EQ(released.load(), 1);
 }
 
-TEST(ManualResetEvent, StaysSignalledForEveryWaitUntilReset) {
+TEST(ManualResetEvent, StaysSignalledForEveryWaitUntilReset)
+{
     EventHandle event(TRUE);
     SetEvent(event.handle);
     EXPECT_EQ(WaitForSingleObject(event.handle, 0), WAIT_OBJECT_0);
@@ -92,7 +103,8 @@ TEST(ManualResetEvent, StaysSignalledForEveryWaitUntilReset) {
     EXPECT_EQ(WaitForSingleObject(event.handle, 20), WAIT_TIMEOUT);
 }
 
-TEST(ManualResetEvent, OneSignalReleasesAllWaiters) {
+TEST(ManualResetEvent, OneSignalReleasesAllWaiters)
+{
     EventHandle event(TRUE);
     std::atomic<int> released{0};
     std::vector<std::thread> waiters;
@@ -111,7 +123,8 @@ TEST(ManualResetEvent, OneSignalReleasesAllWaiters) {
     EXPECT_EQ(released.load(), 4);
 }
 
-TEST(CloseHandle, ClosedHandleFailsEveryCall) {
+TEST(CloseHandle, ClosedHandleFailsEveryCall)
+{
     HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
     EXPECT_TRUE(CloseHandle(event));
     EXPECT_EQ(WaitForSingleObject(event, 0), WAIT_FAILED);
@@ -121,7 +134,8 @@ TEST(CloseHandle, ClosedHandleFailsEveryCall) {
     EXPECT_EQ(WaitForSingleObject(nullptr, 0), WAIT_FAILED);
 }
 
-TEST(CreateEvent, EachCallMakesADistinctEvent) {
+TEST(CreateEvent, EachCallMakesADistinctEvent)
+{
     EventHandle first(FALSE);
     EventHandle second(FALSE);
     EXPECT_NE(first.handle, second.handle);
@@ -129,7 +143,8 @@ TEST(CreateEvent, EachCallMakesADistinctEvent) {
     EXPECT_EQ(WaitForSingleObject(second.handle, 0), WAIT_TIMEOUT);
 }
 
-TEST(GetTickCount, AdvancesWithSleep) {
+TEST(GetTickCount, AdvancesWithSleep)
+{
     const DWORD start = GetTickCount();
     Sleep(30);
     const DWORD elapsed = GetTickCount() - start;
@@ -137,7 +152,8 @@ TEST(GetTickCount, AdvancesWithSleep) {
     EXPECT_LT(elapsed, 1000u);
 }
 
-TEST(GetCurrentThreadId, DiffersBetweenThreadsAndIsStable) {
+TEST(GetCurrentThreadId, DiffersBetweenThreadsAndIsStable)
+{
     const DWORD mine = GetCurrentThreadId();
     EXPECT_EQ(GetCurrentThreadId(), mine);
     DWORD other = 0;

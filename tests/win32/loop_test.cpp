@@ -16,9 +16,10 @@ constexpr UINT kInModal = WM_USER + 41;
 constexpr UINT kEndModal = WM_USER + 42;
 constexpr UINT kAsk = WM_USER + 43;
 
-}  // namespace
+} // namespace
 
-TEST(PostQuitMessage, EndsTheLoopWithItsCode) {
+TEST(PostQuitMessage, EndsTheLoopWithItsCode)
+{
     PostQuitMessage(17);
     MSG msg{};
     EXPECT_EQ(GetMessageW(&msg, nullptr, 0, 0), 0);
@@ -27,7 +28,8 @@ TEST(PostQuitMessage, EndsTheLoopWithItsCode) {
     EXPECT_FALSE(PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) << "WM_QUIT is taken once";
 }
 
-TEST(PostQuitMessage, ComesAfterMessagesAlreadyPosted) {
+TEST(PostQuitMessage, ComesAfterMessagesAlreadyPosted)
+{
     constexpr UINT kWork = WM_USER + 44;
     PostMessageW(nullptr, kWork, 0, 0);
     PostQuitMessage(3);
@@ -41,7 +43,8 @@ TEST(PostQuitMessage, ComesAfterMessagesAlreadyPosted) {
     EXPECT_EQ(msg.wParam, 3u);
 }
 
-TEST(PostQuitMessage, WakesALoopThatIsWaiting) {
+TEST(PostQuitMessage, WakesALoopThatIsWaiting)
+{
     std::promise<DWORD> threadId;
     std::atomic<int> exitCode{-1};
     std::thread loop([&] {
@@ -62,7 +65,8 @@ TEST(PostQuitMessage, WakesALoopThatIsWaiting) {
     EXPECT_EQ(exitCode.load(), 9);
 }
 
-TEST(PeekMessage, NoRemoveLeavesTheMessage) {
+TEST(PeekMessage, NoRemoveLeavesTheMessage)
+{
     PostMessageW(nullptr, kAsk, 5, 0);
     MSG msg{};
     ASSERT_TRUE(PeekMessageW(&msg, nullptr, 0, 0, PM_NOREMOVE));
@@ -71,7 +75,8 @@ TEST(PeekMessage, NoRemoveLeavesTheMessage) {
     EXPECT_FALSE(PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE));
 }
 
-TEST(PeekMessage, FiltersByWindowAndRange) {
+TEST(PeekMessage, FiltersByWindowAndRange)
+{
     HWND first = CreateWindowHandle([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     HWND second = CreateWindowHandle([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     PostMessageW(first, kAsk, 1, 0);
@@ -89,7 +94,8 @@ TEST(PeekMessage, FiltersByWindowAndRange) {
     DestroyWindow(second);
 }
 
-TEST(GetMessage, FilterWindowThatIsNoWindowIsAnError) {
+TEST(GetMessage, FilterWindowThatIsNoWindowIsAnError)
+{
     MSG msg{};
     EXPECT_EQ(GetMessageW(&msg, reinterpret_cast<HWND>(0x7fff0000), 0, 0), -1);
 }
@@ -97,7 +103,8 @@ TEST(GetMessage, FilterWindowThatIsNoWindowIsAnError) {
 // A modal loop inside a message handler: the queue is the thread's, so the
 // inner loop receives what is posted and sent while it runs, and the outer
 // loop carries on after it.
-TEST(NestedLoop, ModalLoopStillProcessesPostsAndSends) {
+TEST(NestedLoop, ModalLoopStillProcessesPostsAndSends)
+{
     std::vector<std::string> trace;
     std::promise<void> modalRunning;
     WindowThread window([&](HWND, UINT msg, WPARAM wParam, LPARAM) -> LRESULT {
@@ -134,12 +141,14 @@ TEST(NestedLoop, ModalLoopStillProcessesPostsAndSends) {
     EXPECT_EQ(SendMessageW(window.Hwnd(), kAsk, 0, 0), 64);
     ASSERT_TRUE(PostMessageW(window.Hwnd(), kInModal, 1, 0));
     ASSERT_TRUE(PostMessageW(window.Hwnd(), kEndModal, 0, 0));
-    ASSERT_TRUE(PostMessageW(window.Hwnd(), kInModal, 2, 0));  // handled by the outer loop
+    ASSERT_TRUE(PostMessageW(window.Hwnd(), kInModal, 2, 0)); // handled by the outer loop
     window.Stop();
-    EXPECT_EQ(trace, (std::vector<std::string>{"modal begins", "send", "post 1", "end", "modal ends", "post 2"}));
+    EXPECT_EQ(trace,
+              (std::vector<std::string>{"modal begins", "send", "post 1", "end", "modal ends", "post 2"}));
 }
 
-TEST(NestedLoop, QuitInsideModalLoopIsSeenByIt) {
+TEST(NestedLoop, QuitInsideModalLoopIsSeenByIt)
+{
     int innerExit = -1;
     int outerExit = -1;
     HWND hwnd = CreateWindowHandle([&](HWND, UINT msg, WPARAM, LPARAM) -> LRESULT {
@@ -168,24 +177,29 @@ TEST(NestedLoop, QuitInsideModalLoopIsSeenByIt) {
 
 // Removes the calling thread's event source however the test ends, so that
 // no later test on this thread calls into a destroyed one.
-struct ScopedEventSource {
+struct ScopedEventSource
+{
     explicit ScopedEventSource(ExternalEventSource source) { SetThreadEventSource(std::move(source)); }
     ~ScopedEventSource() { SetThreadEventSource({}); }
 };
 
 // The toolkit waits on SDL2 events and its queue at once through an external
 // source: wait() stands for SDL_WaitEventTimeout, wake() for SDL_PushEvent.
-class ExternalSource {
+class ExternalSource
+{
 public:
-    void Wake() {
+    void Wake()
+    {
         wakes_.fetch_add(1);
         SetEvent(event_);
     }
-    void Wait(DWORD timeoutMs) {
+    void Wait(DWORD timeoutMs)
+    {
         waits_.fetch_add(1);
         WaitForSingleObject(event_, timeoutMs);
     }
-    ExternalEventSource Source() {
+    ExternalEventSource Source()
+    {
         return ExternalEventSource{[this](DWORD timeoutMs) { Wait(timeoutMs); }, [this] { Wake(); }};
     }
     ~ExternalSource() { CloseHandle(event_); }
@@ -194,10 +208,11 @@ public:
     std::atomic<int> wakes_{0};
 
 private:
-    HANDLE event_ = CreateEventW(nullptr, FALSE, FALSE, nullptr);  // remembers a wake
+    HANDLE event_ = CreateEventW(nullptr, FALSE, FALSE, nullptr); // remembers a wake
 };
 
-TEST(ExternalEventSource, PostFromAnotherThreadWakesTheSourceWait) {
+TEST(ExternalEventSource, PostFromAnotherThreadWakesTheSourceWait)
+{
     ExternalSource source;
     ScopedEventSource installed(source.Source());
     const DWORD self = GetCurrentThreadId();
@@ -213,7 +228,8 @@ TEST(ExternalEventSource, PostFromAnotherThreadWakesTheSourceWait) {
     sender.join();
 }
 
-TEST(ExternalEventSource, IdleLoopDoesNotSpin) {
+TEST(ExternalEventSource, IdleLoopDoesNotSpin)
+{
     ExternalSource source;
     ScopedEventSource installed(source.Source());
     const UINT_PTR timer = SetTimer(nullptr, 0, 150, nullptr);
@@ -226,10 +242,12 @@ TEST(ExternalEventSource, IdleLoopDoesNotSpin) {
     KillTimer(nullptr, timer);
 }
 
-TEST(ExternalEventSource, SendIsAnsweredWhileTheLoopWaitsInTheSource) {
+TEST(ExternalEventSource, SendIsAnsweredWhileTheLoopWaitsInTheSource)
+{
     ExternalSource source;
     ScopedEventSource installed(source.Source());
-    HWND hwnd = CreateWindowHandle([](HWND, UINT msg, WPARAM, LPARAM) -> LRESULT { return msg == kAsk ? 8 : 0; });
+    HWND hwnd =
+        CreateWindowHandle([](HWND, UINT msg, WPARAM, LPARAM) -> LRESULT { return msg == kAsk ? 8 : 0; });
     auto reply = std::async(std::launch::async, [hwnd] {
         Sleep(20);
         const LRESULT answer = SendMessageW(hwnd, kAsk, 0, 0);
@@ -243,16 +261,17 @@ TEST(ExternalEventSource, SendIsAnsweredWhileTheLoopWaitsInTheSource) {
     DestroyWindow(hwnd);
 }
 
-TEST(ExternalEventSource, MessagesPostedByTheWaitItselfAreReturned) {
+TEST(ExternalEventSource, MessagesPostedByTheWaitItselfAreReturned)
+{
     // Translated input: the wait reads an event and posts it to its own thread.
     HWND hwnd = CreateWindowHandle([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     int waits = 0;
-    ScopedEventSource installed(ExternalEventSource{
-        [&](DWORD) {
-            ++waits;
-            PostMessageW(hwnd, WM_LBUTTONDOWN, 0, MAKELPARAM(4, 5));
-        },
-        [] {}});
+    ScopedEventSource installed(ExternalEventSource{[&](DWORD) {
+                                                        ++waits;
+                                                        PostMessageW(hwnd, WM_LBUTTONDOWN, 0,
+                                                                     MAKELPARAM(4, 5));
+                                                    },
+                                                    [] {}});
     MSG msg{};
     ASSERT_GT(GetMessageW(&msg, nullptr, 0, 0), 0);
     EXPECT_EQ(msg.message, static_cast<UINT>(WM_LBUTTONDOWN));
@@ -261,7 +280,8 @@ TEST(ExternalEventSource, MessagesPostedByTheWaitItselfAreReturned) {
     DestroyWindow(hwnd);
 }
 
-TEST(GetQueueWaitTimeout, ReportsWorkTimersAndArmsTheWake) {
+TEST(GetQueueWaitTimeout, ReportsWorkTimersAndArmsTheWake)
+{
     std::atomic<int> wakes{0};
     ScopedEventSource installed(ExternalEventSource{{}, [&] { ++wakes; }});
     EXPECT_EQ(GetQueueWaitTimeout(), INFINITE);

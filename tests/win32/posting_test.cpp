@@ -14,7 +14,8 @@ constexpr UINT kNumbered = WM_USER + 1;
 constexpr UINT kDone = WM_USER + 2;
 
 // Drains the calling thread's queue without waiting.
-std::vector<MSG> DrainQueue() {
+std::vector<MSG> DrainQueue()
+{
     std::vector<MSG> taken;
     MSG msg{};
     while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
@@ -23,9 +24,10 @@ std::vector<MSG> DrainQueue() {
     return taken;
 }
 
-}  // namespace
+} // namespace
 
-TEST(PostMessage, MessagesArriveInPostingOrder) {
+TEST(PostMessage, MessagesArriveInPostingOrder)
+{
     std::vector<WPARAM> seen;
     HWND hwnd = CreateWindowHandle([&](HWND, UINT msg, WPARAM wParam, LPARAM) -> LRESULT {
         if (msg == kNumbered) {
@@ -47,7 +49,8 @@ TEST(PostMessage, MessagesArriveInPostingOrder) {
     DestroyWindow(hwnd);
 }
 
-TEST(PostMessage, CarriesWindowMessageAndParameters) {
+TEST(PostMessage, CarriesWindowMessageAndParameters)
+{
     HWND hwnd = CreateWindowHandle([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     ASSERT_TRUE(PostMessageW(hwnd, kNumbered, 7, -9));
     MSG msg{};
@@ -59,7 +62,8 @@ TEST(PostMessage, CarriesWindowMessageAndParameters) {
     DestroyWindow(hwnd);
 }
 
-TEST(PostMessage, ToDestroyedWindowFails) {
+TEST(PostMessage, ToDestroyedWindowFails)
+{
     HWND hwnd = CreateWindowHandle([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     ASSERT_TRUE(IsWindow(hwnd));
     ASSERT_TRUE(DestroyWindow(hwnd));
@@ -68,21 +72,24 @@ TEST(PostMessage, ToDestroyedWindowFails) {
     EXPECT_TRUE(DrainQueue().empty());
 }
 
-TEST(PostMessage, ToWindowDestroyedOnItsThreadFailsFromAnotherThread) {
+TEST(PostMessage, ToWindowDestroyedOnItsThreadFailsFromAnotherThread)
+{
     WindowThread window([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     const HWND hwnd = window.Hwnd();
-    window.Stop();  // the loop destroys the window before its thread ends
+    window.Stop(); // the loop destroys the window before its thread ends
     EXPECT_FALSE(IsWindow(hwnd));
     EXPECT_FALSE(PostMessageW(hwnd, kNumbered, 0, 0));
 }
 
-TEST(PostMessage, ToUnknownHandleFails) {
+TEST(PostMessage, ToUnknownHandleFails)
+{
     EXPECT_FALSE(PostMessageW(reinterpret_cast<HWND>(0x7fff0000), kNumbered, 0, 0));
     EXPECT_FALSE(IsWindow(reinterpret_cast<HWND>(0x7fff0000)));
     EXPECT_FALSE(IsWindow(nullptr));
 }
 
-TEST(PostMessage, PendingMessagesOfDestroyedWindowAreDropped) {
+TEST(PostMessage, PendingMessagesOfDestroyedWindowAreDropped)
+{
     HWND hwnd = CreateWindowHandle([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     HWND other = CreateWindowHandle([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     ASSERT_TRUE(PostMessageW(hwnd, kNumbered, 1, 0));
@@ -94,7 +101,8 @@ TEST(PostMessage, PendingMessagesOfDestroyedWindowAreDropped) {
     DestroyWindow(other);
 }
 
-TEST(PostMessage, NullWindowPostsToCallingThread) {
+TEST(PostMessage, NullWindowPostsToCallingThread)
+{
     ASSERT_TRUE(PostMessageW(nullptr, kNumbered, 3, 0));
     auto taken = DrainQueue();
     ASSERT_EQ(taken.size(), 1u);
@@ -102,13 +110,14 @@ TEST(PostMessage, NullWindowPostsToCallingThread) {
     EXPECT_EQ(taken[0].wParam, 3u);
 }
 
-TEST(PostThreadMessage, ReachesTheThreadLoop) {
+TEST(PostThreadMessage, ReachesTheThreadLoop)
+{
     std::atomic<DWORD> threadId{0};
     std::atomic<WPARAM> received{0};
     std::promise<void> ready;
     std::thread loop([&] {
         MSG msg{};
-        PeekMessageW(&msg, nullptr, 0, 0, PM_NOREMOVE);  // makes the queue
+        PeekMessageW(&msg, nullptr, 0, 0, PM_NOREMOVE); // makes the queue
         threadId = GetCurrentThreadId();
         ready.set_value();
         while (GetMessageW(&msg, nullptr, 0, 0) > 0) {
@@ -125,7 +134,8 @@ TEST(PostThreadMessage, ReachesTheThreadLoop) {
     EXPECT_FALSE(PostThreadMessageW(threadId, kDone, 43, 0)) << "the thread has ended";
 }
 
-TEST(PostMessage, ManyThreadsPostingConcurrentlyLoseNothing) {
+TEST(PostMessage, ManyThreadsPostingConcurrentlyLoseNothing)
+{
     constexpr int kPosters = 8;
     constexpr int kPerPoster = 2000;
     std::vector<std::vector<LPARAM>> perPoster(kPosters);
@@ -151,7 +161,7 @@ TEST(PostMessage, ManyThreadsPostingConcurrentlyLoseNothing) {
     for (auto& poster : posters) {
         poster.join();
     }
-    window.Stop();  // the stop message comes after every post, so all are dispatched
+    window.Stop(); // the stop message comes after every post, so all are dispatched
     EXPECT_EQ(failures.load(), 0);
     EXPECT_EQ(total, kPosters * kPerPoster);
     for (int p = 0; p < kPosters; ++p) {
@@ -162,7 +172,8 @@ TEST(PostMessage, ManyThreadsPostingConcurrentlyLoseNothing) {
     }
 }
 
-TEST(DestroyWindow, SendsDestroyThenNcDestroyWhileStillAWindow) {
+TEST(DestroyWindow, SendsDestroyThenNcDestroyWhileStillAWindow)
+{
     std::vector<UINT> seen;
     std::vector<BOOL> aliveDuring;
     HWND hwnd = CreateWindowHandle([&](HWND self, UINT msg, WPARAM, LPARAM) -> LRESULT {
@@ -177,27 +188,33 @@ TEST(DestroyWindow, SendsDestroyThenNcDestroyWhileStillAWindow) {
     EXPECT_FALSE(DestroyWindow(hwnd)) << "a second destroy finds nothing";
 }
 
-TEST(DestroyWindow, FromAnotherThreadIsRefused) {
+TEST(DestroyWindow, FromAnotherThreadIsRefused)
+{
     WindowThread window([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     EXPECT_FALSE(DestroyWindow(window.Hwnd()));
     EXPECT_TRUE(IsWindow(window.Hwnd()));
 }
 
-TEST(CreateWindowHandle, CreateAnsweringMinusOneGivesNoWindow) {
+TEST(CreateWindowHandle, CreateAnsweringMinusOneGivesNoWindow)
+{
     std::vector<UINT> seen;
-    HWND hwnd = CreateWindowHandle([&](HWND, UINT msg, WPARAM, LPARAM lParam) -> LRESULT {
-        seen.push_back(msg);
-        return msg == WM_CREATE && lParam == 5 ? -1 : 0;
-    }, 5);
+    HWND hwnd = CreateWindowHandle(
+        [&](HWND, UINT msg, WPARAM, LPARAM lParam) -> LRESULT {
+            seen.push_back(msg);
+            return msg == WM_CREATE && lParam == 5 ? -1 : 0;
+        },
+        5);
     EXPECT_EQ(hwnd, nullptr);
     EXPECT_EQ(seen, (std::vector<UINT>{WM_CREATE, WM_DESTROY, WM_NCDESTROY}));
 }
 
-TEST(CreateWindowHandle, EmptyProcedureGivesNoWindow) {
+TEST(CreateWindowHandle, EmptyProcedureGivesNoWindow)
+{
     EXPECT_EQ(CreateWindowHandle(WindowProcedure{}), nullptr);
 }
 
-TEST(DispatchMessage, OnlyRunsWindowsOfTheCallingThread) {
+TEST(DispatchMessage, OnlyRunsWindowsOfTheCallingThread)
+{
     std::atomic<int> calls{0};
     WindowThread window([&](HWND, UINT msg, WPARAM, LPARAM) -> LRESULT {
         if (msg == kNumbered) {
@@ -213,7 +230,8 @@ TEST(DispatchMessage, OnlyRunsWindowsOfTheCallingThread) {
     EXPECT_EQ(calls.load(), 0);
 }
 
-TEST(GetWindowThreadProcessId, NamesTheOwningThread) {
+TEST(GetWindowThreadProcessId, NamesTheOwningThread)
+{
     WindowThread window([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     DWORD processId = 0;
     EXPECT_EQ(GetWindowThreadProcessId(window.Hwnd(), &processId), window.ThreadId());

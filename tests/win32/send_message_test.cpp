@@ -16,9 +16,10 @@ constexpr UINT kAskBack = WM_USER + 11;
 constexpr UINT kDestroyYourself = WM_USER + 12;
 constexpr UINT kBlockUntilReleased = WM_USER + 13;
 
-}  // namespace
+} // namespace
 
-TEST(SendMessage, SameThreadIsADirectCall) {
+TEST(SendMessage, SameThreadIsADirectCall)
+{
     int depth = 0;
     HWND hwnd = CreateWindowHandle([&](HWND, UINT msg, WPARAM wParam, LPARAM) -> LRESULT {
         if (msg == kAsk) {
@@ -34,7 +35,8 @@ TEST(SendMessage, SameThreadIsADirectCall) {
     DestroyWindow(hwnd);
 }
 
-TEST(SendMessage, CrossThreadRunsOnWindowThreadAndReturnsItsResult) {
+TEST(SendMessage, CrossThreadRunsOnWindowThreadAndReturnsItsResult)
+{
     std::atomic<DWORD> ranOn{0};
     WindowThread window([&](HWND, UINT msg, WPARAM wParam, LPARAM lParam) -> LRESULT {
         if (msg == kAsk) {
@@ -48,7 +50,8 @@ TEST(SendMessage, CrossThreadRunsOnWindowThreadAndReturnsItsResult) {
     EXPECT_NE(ranOn.load(), GetCurrentThreadId());
 }
 
-TEST(SendMessage, SenderBlocksUntilTheProcedureHasRun) {
+TEST(SendMessage, SenderBlocksUntilTheProcedureHasRun)
+{
     HANDLE release = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     std::atomic<bool> finished{false};
     WindowThread window([&](HWND, UINT msg, WPARAM, LPARAM) -> LRESULT {
@@ -59,7 +62,8 @@ TEST(SendMessage, SenderBlocksUntilTheProcedureHasRun) {
         }
         return 0;
     });
-    auto reply = std::async(std::launch::async, [&] { return SendMessageW(window.Hwnd(), kBlockUntilReleased, 0, 0); });
+    auto reply = std::async(std::launch::async,
+                            [&] { return SendMessageW(window.Hwnd(), kBlockUntilReleased, 0, 0); });
     EXPECT_EQ(reply.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
     SetEvent(release);
     EXPECT_EQ(reply.get(), 5);
@@ -67,7 +71,8 @@ TEST(SendMessage, SenderBlocksUntilTheProcedureHasRun) {
     CloseHandle(release);
 }
 
-TEST(SendMessage, SendBackWhileSenderWaitsIsRunByTheWaitingSender) {
+TEST(SendMessage, SendBackWhileSenderWaitsIsRunByTheWaitingSender)
+{
     // This thread asks B; B, while answering, asks this thread's window. The
     // sender runs B's send inside its own wait, so both calls complete.
     DWORD askBackRanOn = 0;
@@ -87,7 +92,8 @@ TEST(SendMessage, SendBackWhileSenderWaitsIsRunByTheWaitingSender) {
     DestroyWindow(hwndA);
 }
 
-TEST(SendMessage, TwoThreadsSendingToEachOtherAtOnceBothGetAnswers) {
+TEST(SendMessage, TwoThreadsSendingToEachOtherAtOnceBothGetAnswers)
+{
     constexpr UINT kStart = WM_USER + 20;
     constexpr UINT kQuestion = WM_USER + 21;
     std::atomic<HWND> peerOfA{nullptr};
@@ -127,7 +133,8 @@ TEST(SendMessage, TwoThreadsSendingToEachOtherAtOnceBothGetAnswers) {
     CloseHandle(bothStarted);
 }
 
-TEST(SendMessage, ToWindowDestroyedWhileTheCallWaitsReturnsZero) {
+TEST(SendMessage, ToWindowDestroyedWhileTheCallWaitsReturnsZero)
+{
     // The window thread is busy in a posted handler when the send arrives; the
     // handler then destroys the window, so the queued send never runs.
     HANDLE busy = CreateEventW(nullptr, TRUE, FALSE, nullptr);
@@ -158,7 +165,8 @@ TEST(SendMessage, ToWindowDestroyedWhileTheCallWaitsReturnsZero) {
     CloseHandle(sendQueued);
 }
 
-TEST(SendMessage, ToWindowWhoseThreadEndsReturnsZero) {
+TEST(SendMessage, ToWindowWhoseThreadEndsReturnsZero)
+{
     HANDLE busy = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     HANDLE sendQueued = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     HWND hwnd = nullptr;
@@ -183,7 +191,8 @@ TEST(SendMessage, ToWindowWhoseThreadEndsReturnsZero) {
     CloseHandle(sendQueued);
 }
 
-TEST(SendMessage, ToUnknownOrDestroyedWindowReturnsZero) {
+TEST(SendMessage, ToUnknownOrDestroyedWindowReturnsZero)
+{
     HWND hwnd = CreateWindowHandle([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 5; });
     EXPECT_EQ(SendMessageW(hwnd, kAsk, 0, 0), 5);
     DestroyWindow(hwnd);
@@ -191,7 +200,8 @@ TEST(SendMessage, ToUnknownOrDestroyedWindowReturnsZero) {
     EXPECT_EQ(SendMessageW(nullptr, kAsk, 0, 0), 0);
 }
 
-TEST(SendMessage, RunsBeforeMessagesPostedEarlier) {
+TEST(SendMessage, RunsBeforeMessagesPostedEarlier)
+{
     std::vector<UINT> order;
     HANDLE sending = CreateEventW(nullptr, TRUE, FALSE, nullptr);
     HWND hwnd = CreateWindowHandle([&](HWND, UINT msg, WPARAM, LPARAM) -> LRESULT {
@@ -206,7 +216,7 @@ TEST(SendMessage, RunsBeforeMessagesPostedEarlier) {
         SendMessageW(hwnd, kAsk, 0, 0);
     });
     ASSERT_EQ(WaitForSingleObject(sending, 2000), WAIT_OBJECT_0);
-    Sleep(100);  // lets the sender queue its call behind the posted message
+    Sleep(100); // lets the sender queue its call behind the posted message
     MSG msg{};
     ASSERT_GT(GetMessageW(&msg, nullptr, 0, 0), 0);
     DispatchMessageW(&msg);
@@ -216,7 +226,8 @@ TEST(SendMessage, RunsBeforeMessagesPostedEarlier) {
     CloseHandle(sending);
 }
 
-TEST(SendMessage, WaitingSenderRunsSendsButNotItsPostedMessages) {
+TEST(SendMessage, WaitingSenderRunsSendsButNotItsPostedMessages)
+{
     constexpr UINT kPosted = WM_USER + 30;
     std::vector<UINT> seenHere;
     HWND here = CreateWindowHandle([&](HWND, UINT msg, WPARAM, LPARAM) -> LRESULT {
@@ -241,7 +252,8 @@ TEST(SendMessage, WaitingSenderRunsSendsButNotItsPostedMessages) {
     DestroyWindow(here);
 }
 
-TEST(SendMessage, WorkerAsksHostWindowThenWaitsForItsEvent) {
+TEST(SendMessage, WorkerAsksHostWindowThenWaitsForItsEvent)
+{
     // The backup query's road: a worker sends the event and a string to a
     // window on another thread, which writes the answer and sets the event.
     constexpr UINT kVersionQuestion = WM_USER + 31;

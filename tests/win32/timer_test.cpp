@@ -10,12 +10,14 @@ namespace {
 constexpr UINT_PTR kBarTimer = 102;
 
 // Runs the calling thread's loop for `durationMs`, counting WM_TIMER per id.
-struct TimerLog {
+struct TimerLog
+{
     std::vector<UINT_PTR> ids;
     std::vector<DWORD> ticks;
 };
 
-HWND MakeTimerWindow(TimerLog& log) {
+HWND MakeTimerWindow(TimerLog& log)
+{
     return CreateWindowHandle([&log](HWND, UINT msg, WPARAM wParam, LPARAM) -> LRESULT {
         if (msg == WM_TIMER) {
             log.ids.push_back(wParam);
@@ -25,7 +27,8 @@ HWND MakeTimerWindow(TimerLog& log) {
     });
 }
 
-void PumpFor(DWORD durationMs) {
+void PumpFor(DWORD durationMs)
+{
     const UINT_PTR id = SetTimer(nullptr, 0, durationMs, nullptr);
     MSG msg{};
     while (GetMessageW(&msg, nullptr, 0, 0) > 0) {
@@ -37,9 +40,10 @@ void PumpFor(DWORD durationMs) {
     }
 }
 
-}  // namespace
+} // namespace
 
-TEST(SetTimer, FiresRepeatedlyThroughTheLoop) {
+TEST(SetTimer, FiresRepeatedlyThroughTheLoop)
+{
     TimerLog log;
     HWND hwnd = MakeTimerWindow(log);
     ASSERT_EQ(SetTimer(hwnd, kBarTimer, 10, nullptr), kBarTimer);
@@ -52,7 +56,8 @@ TEST(SetTimer, FiresRepeatedlyThroughTheLoop) {
     DestroyWindow(hwnd);
 }
 
-TEST(KillTimer, StopsTheTimer) {
+TEST(KillTimer, StopsTheTimer)
+{
     TimerLog log;
     HWND hwnd = MakeTimerWindow(log);
     SetTimer(hwnd, kBarTimer, 10, nullptr);
@@ -66,7 +71,8 @@ TEST(KillTimer, StopsTheTimer) {
     DestroyWindow(hwnd);
 }
 
-TEST(KillTimer, FromInsideTheTimerMessageStopsAfterThatTick) {
+TEST(KillTimer, FromInsideTheTimerMessageStopsAfterThatTick)
+{
     int ticks = 0;
     HWND hwnd = CreateWindowHandle([&](HWND self, UINT msg, WPARAM wParam, LPARAM) -> LRESULT {
         if (msg == WM_TIMER && ++ticks == 3) {
@@ -80,7 +86,8 @@ TEST(KillTimer, FromInsideTheTimerMessageStopsAfterThatTick) {
     DestroyWindow(hwnd);
 }
 
-TEST(SetTimer, SameIdRestartsThePeriod) {
+TEST(SetTimer, SameIdRestartsThePeriod)
+{
     TimerLog log;
     HWND hwnd = MakeTimerWindow(log);
     SetTimer(hwnd, kBarTimer, 60, nullptr);
@@ -97,11 +104,12 @@ TEST(SetTimer, SameIdRestartsThePeriod) {
     DestroyWindow(hwnd);
 }
 
-TEST(SetTimer, LateTimerGivesOneMessageNotABacklog) {
+TEST(SetTimer, LateTimerGivesOneMessageNotABacklog)
+{
     TimerLog log;
     HWND hwnd = MakeTimerWindow(log);
     SetTimer(hwnd, kBarTimer, 10, nullptr);
-    Sleep(100);  // ten periods pass without a loop
+    Sleep(100); // ten periods pass without a loop
     MSG msg{};
     int timerMessages = 0;
     while (PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
@@ -113,7 +121,8 @@ TEST(SetTimer, LateTimerGivesOneMessageNotABacklog) {
     DestroyWindow(hwnd);
 }
 
-TEST(SetTimer, TimerMessageComesOnlyWhenNothingIsPosted) {
+TEST(SetTimer, TimerMessageComesOnlyWhenNothingIsPosted)
+{
     constexpr UINT kWork = WM_USER + 30;
     HWND hwnd = CreateWindowHandle([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     SetTimer(hwnd, kBarTimer, 10, nullptr);
@@ -129,7 +138,8 @@ TEST(SetTimer, TimerMessageComesOnlyWhenNothingIsPosted) {
     DestroyWindow(hwnd);
 }
 
-TEST(SetTimer, CarriesWindowAndIdAndStopsWithTheWindow) {
+TEST(SetTimer, CarriesWindowAndIdAndStopsWithTheWindow)
+{
     HWND hwnd = CreateWindowHandle([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     SetTimer(hwnd, kBarTimer, 10, nullptr);
     Sleep(15);
@@ -143,7 +153,8 @@ TEST(SetTimer, CarriesWindowAndIdAndStopsWithTheWindow) {
     EXPECT_EQ(SetTimer(hwnd, kBarTimer, 10, nullptr), 0u);
 }
 
-TEST(SetTimer, TimerProcedureIsRefused) {
+TEST(SetTimer, TimerProcedureIsRefused)
+{
     HWND hwnd = CreateWindowHandle([](HWND, UINT, WPARAM, LPARAM) -> LRESULT { return 0; });
     int dummy = 0;
     EXPECT_EQ(SetTimer(hwnd, kBarTimer, 10, &dummy), 0u);
@@ -151,7 +162,8 @@ TEST(SetTimer, TimerProcedureIsRefused) {
     DestroyWindow(hwnd);
 }
 
-TEST(SetTimer, SetFromAnotherThreadWakesTheIdleLoop) {
+TEST(SetTimer, SetFromAnotherThreadWakesTheIdleLoop)
+{
     TimerLog log;
     HWND hwnd = MakeTimerWindow(log);
     std::thread setter([hwnd] {

@@ -8,11 +8,13 @@
 
 // A thread that owns one window and pumps its queue until stopped, the way a
 // toolkit window thread does.
-class WindowThread {
+class WindowThread
+{
 public:
     static constexpr UINT kStopLoop = WM_APP + 0x100;
 
-    explicit WindowThread(WindowProcedure procedure) {
+    explicit WindowThread(WindowProcedure procedure)
+    {
         std::promise<void> ready;
         auto started = ready.get_future();
         thread_ = std::thread([this, &ready, procedure = std::move(procedure)]() mutable {
@@ -39,7 +41,8 @@ public:
 
     ~WindowThread() { Stop(); }
 
-    void Stop() {
+    void Stop()
+    {
         if (thread_.joinable()) {
             PostThreadMessageW(threadId_, kStopLoop, 0, 0);
             thread_.join();

@@ -17,22 +17,27 @@ bool Inside(const RECT& r, POINT p)
 const wchar_t* CheckedImage(const wchar_t* name, const wchar_t* value)
 {
     ImageSpec spec;
-    if (!ImageSpec::Parse(value, spec)) throw AttributeError(AttributeError::Kind::BadValue, name, value);
+    if (!ImageSpec::Parse(value, spec))
+        throw AttributeError(AttributeError::Kind::BadValue, name, value);
     return value;
 }
 
-}  // namespace
+} // namespace
 
 CButtonUI::CButtonUI()
 {
     m_uTextStyle = DT_SINGLELINE | DT_VCENTER | DT_CENTER;
 }
 
-LPCTSTR CButtonUI::GetClass() const { return L"ButtonUI"; }
+LPCTSTR CButtonUI::GetClass() const
+{
+    return L"ButtonUI";
+}
 
 LPVOID CButtonUI::GetInterface(LPCTSTR pstrName)
 {
-    if (CompareNoCase(pstrName, DUI_CTR_BUTTON) == 0) return static_cast<CButtonUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_BUTTON) == 0)
+        return static_cast<CButtonUI*>(this);
     return CLabelUI::GetInterface(pstrName);
 }
 
@@ -44,21 +49,25 @@ UINT CButtonUI::GetControlFlags() const
 
 bool CButtonUI::Activate()
 {
-    if (!CControlUI::Activate()) return false;
-    if (m_pManager != nullptr) m_pManager->SendNotify(this, DUI_MSGTYPE_CLICK);
+    if (!CControlUI::Activate())
+        return false;
+    if (m_pManager != nullptr)
+        m_pManager->SendNotify(this, DUI_MSGTYPE_CLICK);
     return true;
 }
 
 void CButtonUI::SetEnabled(bool bEnable)
 {
     CControlUI::SetEnabled(bEnable);
-    if (!bEnable) m_uButtonState = 0;
+    if (!bEnable)
+        m_uButtonState = 0;
 }
 
 void CButtonUI::SetState(UINT state, bool on)
 {
     const UINT next = on ? (m_uButtonState | state) : (m_uButtonState & ~state);
-    if (next == m_uButtonState) return;
+    if (next == m_uButtonState)
+        return;
     m_uButtonState = next;
     Invalidate();
 }
@@ -86,17 +95,20 @@ void CButtonUI::DoEvent(TEventUI& event)
         }
         return;
     case UIEVENT_MOUSEMOVE:
-        if (m_uButtonState & UISTATE_CAPTURED) SetState(UISTATE_PUSHED, Inside(m_rcItem, event.ptMouse));
+        if (m_uButtonState & UISTATE_CAPTURED)
+            SetState(UISTATE_PUSHED, Inside(m_rcItem, event.ptMouse));
         return;
     case UIEVENT_BUTTONUP:
         if (m_uButtonState & UISTATE_CAPTURED) {
             const bool click = Inside(m_rcItem, event.ptMouse) && IsEnabled();
             SetState(UISTATE_PUSHED | UISTATE_CAPTURED, false);
-            if (click) Activate();
+            if (click)
+                Activate();
         }
         return;
     case UIEVENT_MOUSEENTER:
-        if (IsEnabled()) SetState(UISTATE_HOT, true);
+        if (IsEnabled())
+            SetState(UISTATE_HOT, true);
         return;
     case UIEVENT_MOUSELEAVE:
         SetState(UISTATE_HOT, false);
@@ -107,24 +119,71 @@ void CButtonUI::DoEvent(TEventUI& event)
     CLabelUI::DoEvent(event);
 }
 
-void CButtonUI::SetNormalImage(LPCTSTR image) { m_sNormalImage = image; Invalidate(); }
-void CButtonUI::SetHotImage(LPCTSTR image) { m_sHotImage = image; Invalidate(); }
-void CButtonUI::SetPushedImage(LPCTSTR image) { m_sPushedImage = image; Invalidate(); }
-void CButtonUI::SetDisabledImage(LPCTSTR image) { m_sDisabledImage = image; Invalidate(); }
-void CButtonUI::SetFocusedImage(LPCTSTR image) { m_sFocusedImage = image; Invalidate(); }
-void CButtonUI::SetHotBkColor(DWORD color) { m_dwHotBkColor = color; Invalidate(); }
-void CButtonUI::SetPushedBkColor(DWORD color) { m_dwPushedBkColor = color; Invalidate(); }
-void CButtonUI::SetDisabledBkColor(DWORD color) { m_dwDisabledBkColor = color; Invalidate(); }
-void CButtonUI::SetHotTextColor(DWORD color) { m_dwHotTextColor = color; Invalidate(); }
-void CButtonUI::SetPushedTextColor(DWORD color) { m_dwPushedTextColor = color; Invalidate(); }
-void CButtonUI::SetFocusedTextColor(DWORD color) { m_dwFocusedTextColor = color; Invalidate(); }
+void CButtonUI::SetNormalImage(LPCTSTR image)
+{
+    m_sNormalImage = image;
+    Invalidate();
+}
+void CButtonUI::SetHotImage(LPCTSTR image)
+{
+    m_sHotImage = image;
+    Invalidate();
+}
+void CButtonUI::SetPushedImage(LPCTSTR image)
+{
+    m_sPushedImage = image;
+    Invalidate();
+}
+void CButtonUI::SetDisabledImage(LPCTSTR image)
+{
+    m_sDisabledImage = image;
+    Invalidate();
+}
+void CButtonUI::SetFocusedImage(LPCTSTR image)
+{
+    m_sFocusedImage = image;
+    Invalidate();
+}
+void CButtonUI::SetHotBkColor(DWORD color)
+{
+    m_dwHotBkColor = color;
+    Invalidate();
+}
+void CButtonUI::SetPushedBkColor(DWORD color)
+{
+    m_dwPushedBkColor = color;
+    Invalidate();
+}
+void CButtonUI::SetDisabledBkColor(DWORD color)
+{
+    m_dwDisabledBkColor = color;
+    Invalidate();
+}
+void CButtonUI::SetHotTextColor(DWORD color)
+{
+    m_dwHotTextColor = color;
+    Invalidate();
+}
+void CButtonUI::SetPushedTextColor(DWORD color)
+{
+    m_dwPushedTextColor = color;
+    Invalidate();
+}
+void CButtonUI::SetFocusedTextColor(DWORD color)
+{
+    m_dwFocusedTextColor = color;
+    Invalidate();
+}
 
 DWORD CButtonUI::CurrentTextColor() const
 {
     if (IsEnabled()) {
-        if ((m_uButtonState & UISTATE_PUSHED) && m_dwPushedTextColor != 0) return m_dwPushedTextColor;
-        if ((m_uButtonState & UISTATE_HOT) && m_dwHotTextColor != 0) return m_dwHotTextColor;
-        if (IsFocused() && m_dwFocusedTextColor != 0) return m_dwFocusedTextColor;
+        if ((m_uButtonState & UISTATE_PUSHED) && m_dwPushedTextColor != 0)
+            return m_dwPushedTextColor;
+        if ((m_uButtonState & UISTATE_HOT) && m_dwHotTextColor != 0)
+            return m_dwHotTextColor;
+        if (IsFocused() && m_dwFocusedTextColor != 0)
+            return m_dwFocusedTextColor;
     }
     return CLabelUI::CurrentTextColor();
 }
@@ -133,7 +192,8 @@ void CButtonUI::PaintBkColor(RenderContext& ctx)
 {
     DWORD color = m_dwBackColor;
     if (!IsEnabled()) {
-        if (m_dwDisabledBkColor != 0) color = m_dwDisabledBkColor;
+        if (m_dwDisabledBkColor != 0)
+            color = m_dwDisabledBkColor;
     } else if ((m_uButtonState & UISTATE_PUSHED) && m_dwPushedBkColor != 0) {
         color = m_dwPushedBkColor;
     } else if ((m_uButtonState & (UISTATE_HOT | UISTATE_PUSHED)) && m_dwHotBkColor != 0) {
@@ -144,11 +204,15 @@ void CButtonUI::PaintBkColor(RenderContext& ctx)
 
 void CButtonUI::PaintStatusImage(RenderContext& ctx)
 {
-    if (!IsEnabled() && DrawImage(ctx, m_sDisabledImage)) return;
+    if (!IsEnabled() && DrawImage(ctx, m_sDisabledImage))
+        return;
     if (IsEnabled()) {
-        if ((m_uButtonState & UISTATE_PUSHED) && DrawImage(ctx, m_sPushedImage)) return;
-        if ((m_uButtonState & UISTATE_HOT) && DrawImage(ctx, m_sHotImage)) return;
-        if (IsFocused() && DrawImage(ctx, m_sFocusedImage)) return;
+        if ((m_uButtonState & UISTATE_PUSHED) && DrawImage(ctx, m_sPushedImage))
+            return;
+        if ((m_uButtonState & UISTATE_HOT) && DrawImage(ctx, m_sHotImage))
+            return;
+        if (IsFocused() && DrawImage(ctx, m_sFocusedImage))
+            return;
     }
     DrawImage(ctx, m_sNormalImage);
 }
@@ -157,25 +221,32 @@ void CButtonUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
 {
     using Setter = AttributeSetter<CButtonUI>;
     static const std::unordered_map<std::wstring, Setter> table = {
-        {L"normalimage", [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetNormalImage(CheckedImage(n, v)); }},
-        {L"hotimage", [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetHotImage(CheckedImage(n, v)); }},
-        {L"pushedimage", [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetPushedImage(CheckedImage(n, v)); }},
-        {L"disabledimage", [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetDisabledImage(CheckedImage(n, v)); }},
-        {L"focusedimage", [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetFocusedImage(CheckedImage(n, v)); }},
-        {L"hotbkcolor", [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetHotBkColor(attr::ParseColor(n, v)); }},
-        {L"pushedbkcolor",
-         [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetPushedBkColor(attr::ParseColor(n, v)); }},
-        {L"disabledbkcolor",
-         [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetDisabledBkColor(attr::ParseColor(n, v)); }},
+        {L"normalimage",
+         [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetNormalImage(CheckedImage(n, v)); }},
+        {L"hotimage",
+         [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetHotImage(CheckedImage(n, v)); }},
+        {L"pushedimage",
+         [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetPushedImage(CheckedImage(n, v)); }},
+        {L"disabledimage",
+         [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetDisabledImage(CheckedImage(n, v)); }},
+        {L"focusedimage",
+         [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetFocusedImage(CheckedImage(n, v)); }},
+        {L"hotbkcolor",
+         [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetHotBkColor(attr::ParseColor(n, v)); }},
+        {L"pushedbkcolor", [](CButtonUI& c, const wchar_t* n,
+                              const wchar_t* v) { c.SetPushedBkColor(attr::ParseColor(n, v)); }},
+        {L"disabledbkcolor", [](CButtonUI& c, const wchar_t* n,
+                                const wchar_t* v) { c.SetDisabledBkColor(attr::ParseColor(n, v)); }},
         {L"hottextcolor",
          [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetHotTextColor(attr::ParseColor(n, v)); }},
-        {L"pushedtextcolor",
-         [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetPushedTextColor(attr::ParseColor(n, v)); }},
-        {L"focusedtextcolor",
-         [](CButtonUI& c, const wchar_t* n, const wchar_t* v) { c.SetFocusedTextColor(attr::ParseColor(n, v)); }},
+        {L"pushedtextcolor", [](CButtonUI& c, const wchar_t* n,
+                                const wchar_t* v) { c.SetPushedTextColor(attr::ParseColor(n, v)); }},
+        {L"focusedtextcolor", [](CButtonUI& c, const wchar_t* n,
+                                 const wchar_t* v) { c.SetFocusedTextColor(attr::ParseColor(n, v)); }},
     };
-    if (ApplyFromTable(table, *this, pstrName, pstrValue)) return;
+    if (ApplyFromTable(table, *this, pstrName, pstrValue))
+        return;
     CLabelUI::SetAttribute(pstrName, pstrValue);
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

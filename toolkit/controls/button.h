@@ -8,7 +8,8 @@
 
 namespace DuiLib {
 
-class CButtonUI : public CLabelUI {
+class CButtonUI : public CLabelUI
+{
 public:
     CButtonUI();
     LPCTSTR GetClass() const override;
@@ -56,4 +57,4 @@ protected:
     DWORD m_dwFocusedTextColor = 0;
 };
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -9,28 +9,34 @@ namespace DuiLib {
 
 namespace {
 
-constexpr int kWheelStep = 40;  // logical pixels per wheel notch
+constexpr int kWheelStep = 40; // logical pixels per wheel notch
 constexpr DWORD kThumbColor = 0x66000000;
 
 UINT ParseHorizontalAlign(const wchar_t* name, const wchar_t* value)
 {
     const std::wstring v = value;
-    if (v == L"left") return DT_LEFT;
-    if (v == L"center") return DT_CENTER;
-    if (v == L"right") return DT_RIGHT;
+    if (v == L"left")
+        return DT_LEFT;
+    if (v == L"center")
+        return DT_CENTER;
+    if (v == L"right")
+        return DT_RIGHT;
     throw AttributeError(AttributeError::Kind::BadValue, name, value);
 }
 
 UINT ParseVerticalAlign(const wchar_t* name, const wchar_t* value)
 {
     const std::wstring v = value;
-    if (v == L"top") return DT_TOP;
-    if (v == L"vcenter" || v == L"center") return DT_VCENTER;
-    if (v == L"bottom") return DT_BOTTOM;
+    if (v == L"top")
+        return DT_TOP;
+    if (v == L"vcenter" || v == L"center")
+        return DT_VCENTER;
+    if (v == L"bottom")
+        return DT_BOTTOM;
     throw AttributeError(AttributeError::Kind::BadValue, name, value);
 }
 
-}  // namespace
+} // namespace
 
 CContainerUI::CContainerUI() : m_layout(std::make_unique<StackLayout>()) {}
 
@@ -42,25 +48,32 @@ CContainerUI::~CContainerUI()
     m_items.clear();
 }
 
-LPCTSTR CContainerUI::GetClass() const { return L"ContainerUI"; }
+LPCTSTR CContainerUI::GetClass() const
+{
+    return L"ContainerUI";
+}
 
 LPVOID CContainerUI::GetInterface(LPCTSTR pstrName)
 {
-    if (CompareNoCase(pstrName, DUI_CTR_ICONTAINER) == 0) return static_cast<IContainerUI*>(this);
-    if (CompareNoCase(pstrName, DUI_CTR_CONTAINER) == 0) return static_cast<CContainerUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_ICONTAINER) == 0)
+        return static_cast<IContainerUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_CONTAINER) == 0)
+        return static_cast<CContainerUI*>(this);
     return CControlUI::GetInterface(pstrName);
 }
 
 CControlUI* CContainerUI::GetItemAt(int iIndex) const
 {
-    if (iIndex < 0 || iIndex >= GetCount()) return nullptr;
+    if (iIndex < 0 || iIndex >= GetCount())
+        return nullptr;
     return m_items[static_cast<std::size_t>(iIndex)].get();
 }
 
 int CContainerUI::GetItemIndex(CControlUI* pControl) const
 {
     for (std::size_t i = 0; i < m_items.size(); ++i) {
-        if (m_items[i].get() == pControl) return static_cast<int>(i);
+        if (m_items[i].get() == pControl)
+            return static_cast<int>(i);
     }
     return -1;
 }
@@ -68,7 +81,8 @@ int CContainerUI::GetItemIndex(CControlUI* pControl) const
 bool CContainerUI::SetItemIndex(CControlUI* pControl, int iIndex)
 {
     const int current = GetItemIndex(pControl);
-    if (current < 0 || iIndex < 0 || iIndex >= GetCount()) return false;
+    if (current < 0 || iIndex < 0 || iIndex >= GetCount())
+        return false;
     auto moved = std::move(m_items[static_cast<std::size_t>(current)]);
     m_items.erase(m_items.begin() + current);
     m_items.insert(m_items.begin() + iIndex, std::move(moved));
@@ -76,7 +90,10 @@ bool CContainerUI::SetItemIndex(CControlUI* pControl, int iIndex)
     return true;
 }
 
-int CContainerUI::GetCount() const { return static_cast<int>(m_items.size()); }
+int CContainerUI::GetCount() const
+{
+    return static_cast<int>(m_items.size());
+}
 
 bool CContainerUI::Add(CControlUI* pControl)
 {
@@ -85,10 +102,12 @@ bool CContainerUI::Add(CControlUI* pControl)
 
 bool CContainerUI::AddAt(CControlUI* pControl, int iIndex)
 {
-    if (pControl == nullptr || iIndex < 0 || iIndex > GetCount()) return false;
+    if (pControl == nullptr || iIndex < 0 || iIndex > GetCount())
+        return false;
     m_items.insert(m_items.begin() + iIndex, std::unique_ptr<CControlUI>(pControl));
     pControl->SetManager(m_pManager, this, m_pManager != nullptr);
-    if (m_pManager != nullptr && pControl->IsVisible()) m_pManager->InitControls(pControl, this);
+    if (m_pManager != nullptr && pControl->IsVisible())
+        m_pManager->InitControls(pControl, this);
     NeedUpdate();
     return true;
 }
@@ -101,12 +120,14 @@ bool CContainerUI::Remove(CControlUI* pControl, bool bDoNotDestroy)
 
 bool CContainerUI::RemoveAt(int iIndex, bool bDoNotDestroy)
 {
-    if (iIndex < 0 || iIndex >= GetCount()) return false;
+    if (iIndex < 0 || iIndex >= GetCount())
+        return false;
     std::unique_ptr<CControlUI> removed = std::move(m_items[static_cast<std::size_t>(iIndex)]);
     m_items.erase(m_items.begin() + iIndex);
     NeedUpdate();
     if (bDoNotDestroy) {
-        if (m_pManager != nullptr) m_pManager->ReapObjects(removed.get());
+        if (m_pManager != nullptr)
+            m_pManager->ReapObjects(removed.get());
         removed->SetManager(nullptr, nullptr, false);
         removed.release();
     } else if (m_pManager != nullptr) {
@@ -117,7 +138,8 @@ bool CContainerUI::RemoveAt(int iIndex, bool bDoNotDestroy)
 
 void CContainerUI::RemoveAll()
 {
-    while (!m_items.empty()) RemoveAt(GetCount() - 1);
+    while (!m_items.empty())
+        RemoveAt(GetCount() - 1);
     m_iScrollY = 0;
     NeedUpdate();
 }
@@ -136,9 +158,11 @@ void CContainerUI::SetChildPadding(int iPadding)
 
 void CContainerUI::EnableScrollBar(bool bEnableVertical)
 {
-    if (m_bVScroll == bEnableVertical) return;
+    if (m_bVScroll == bEnableVertical)
+        return;
     m_bVScroll = bEnableVertical;
-    if (!m_bVScroll) m_iScrollY = 0;
+    if (!m_bVScroll)
+        m_iScrollY = 0;
     NeedUpdate();
 }
 
@@ -150,22 +174,32 @@ int CContainerUI::GetScrollRange() const
 
 void CContainerUI::SetScrollPos(int y)
 {
-    if (!m_bVScroll) return;
+    if (!m_bVScroll)
+        return;
     y = std::max(0, std::min(y, GetScrollRange()));
-    if (y == m_iScrollY) return;
+    if (y == m_iScrollY)
+        return;
     m_iScrollY = y;
     ArrangeChildren();
     Invalidate();
-    if (m_pManager != nullptr) m_pManager->SendNotify(this, DUI_MSGTYPE_SCROLL, static_cast<WPARAM>(y));
+    if (m_pManager != nullptr)
+        m_pManager->SendNotify(this, DUI_MSGTYPE_SCROLL, static_cast<WPARAM>(y));
 }
 
-void CContainerUI::LineUp() { SetScrollPos(m_iScrollY - kWheelStep); }
+void CContainerUI::LineUp()
+{
+    SetScrollPos(m_iScrollY - kWheelStep);
+}
 
-void CContainerUI::LineDown() { SetScrollPos(m_iScrollY + kWheelStep); }
+void CContainerUI::LineDown()
+{
+    SetScrollPos(m_iScrollY + kWheelStep);
+}
 
 void CContainerUI::EnsureVisible(CControlUI* pControl)
 {
-    if (!m_bVScroll || pControl == nullptr) return;
+    if (!m_bVScroll || pControl == nullptr)
+        return;
     const RECT& r = pControl->GetPos();
     const int viewTop = m_rcItem.top + m_rcInset.top;
     const int viewBottom = m_rcItem.bottom - m_rcInset.bottom;
@@ -179,7 +213,8 @@ void CContainerUI::EnsureVisible(CControlUI* pControl)
 RECT CContainerUI::GetScrollThumbRect() const
 {
     const int range = GetScrollRange();
-    if (!m_bVScroll || range <= 0) return RECT{0, 0, 0, 0};
+    if (!m_bVScroll || range <= 0)
+        return RECT{0, 0, 0, 0};
     const int trackTop = m_rcItem.top + m_rcInset.top;
     const int trackHeight = (m_rcItem.bottom - m_rcInset.bottom) - trackTop;
     const int thumbHeight = std::max(20, trackHeight * trackHeight / std::max(1, m_iContentHeight));
@@ -189,12 +224,15 @@ RECT CContainerUI::GetScrollThumbRect() const
 
 CControlUI* CContainerUI::FindSubControl(LPCTSTR pstrSubControlName)
 {
-    if (m_pManager != nullptr) return m_pManager->FindSubControlByName(this, pstrSubControlName);
+    if (m_pManager != nullptr)
+        return m_pManager->FindSubControlByName(this, pstrSubControlName);
     // Not attached yet: search the tree directly.
     for (const auto& item : m_items) {
-        if (item->GetName() == pstrSubControlName) return item.get();
+        if (item->GetName() == pstrSubControlName)
+            return item.get();
         if (auto* container = static_cast<CContainerUI*>(item->GetInterface(DUI_CTR_CONTAINER))) {
-            if (CControlUI* found = container->FindSubControl(pstrSubControlName)) return found;
+            if (CControlUI* found = container->FindSubControl(pstrSubControlName))
+                return found;
         }
     }
     return nullptr;
@@ -212,38 +250,47 @@ void CContainerUI::SetInternVisible(bool bVisible)
 
 void CContainerUI::SetManager(CPaintManagerUI* pManager, CControlUI* pParent, bool bInit)
 {
-    for (const auto& item : m_items) item->SetManager(pManager, this, bInit);
+    for (const auto& item : m_items)
+        item->SetManager(pManager, this, bInit);
     CControlUI::SetManager(pManager, pParent, bInit);
 }
 
 CControlUI* CContainerUI::FindControl(FINDCONTROLPROC Proc, LPVOID pData, UINT uFlags)
 {
-    if ((uFlags & UIFIND_VISIBLE) != 0 && !IsVisible()) return nullptr;
-    if ((uFlags & UIFIND_ENABLED) != 0 && !IsEnabled()) return nullptr;
+    if ((uFlags & UIFIND_VISIBLE) != 0 && !IsVisible())
+        return nullptr;
+    if ((uFlags & UIFIND_ENABLED) != 0 && !IsEnabled())
+        return nullptr;
     if ((uFlags & UIFIND_HITTEST) != 0) {
         const POINT* pt = static_cast<const POINT*>(pData);
-        if (pt->x < m_rcItem.left || pt->x >= m_rcItem.right || pt->y < m_rcItem.top || pt->y >= m_rcItem.bottom) {
+        if (pt->x < m_rcItem.left || pt->x >= m_rcItem.right || pt->y < m_rcItem.top ||
+            pt->y >= m_rcItem.bottom) {
             return nullptr;
         }
         // The scroll bar belongs to the container itself.
         if (m_bVScroll && GetScrollRange() > 0 && pt->x >= m_rcItem.right - kScrollBarWidth) {
             return m_bMouseEnabled ? Proc(this, pData) : nullptr;
         }
-        if (!m_bMouseChildEnabled) return m_bMouseEnabled ? Proc(this, pData) : nullptr;
+        if (!m_bMouseChildEnabled)
+            return m_bMouseEnabled ? Proc(this, pData) : nullptr;
     }
     if ((uFlags & UIFIND_ME_FIRST) != 0) {
-        if (CControlUI* me = CControlUI::FindControl(Proc, pData, uFlags)) return me;
+        if (CControlUI* me = CControlUI::FindControl(Proc, pData, uFlags))
+            return me;
     }
     if ((uFlags & UIFIND_TOP_FIRST) != 0) {
         for (auto it = m_items.rbegin(); it != m_items.rend(); ++it) {
-            if (CControlUI* found = (*it)->FindControl(Proc, pData, uFlags)) return found;
+            if (CControlUI* found = (*it)->FindControl(Proc, pData, uFlags))
+                return found;
         }
     } else {
         for (const auto& item : m_items) {
-            if (CControlUI* found = item->FindControl(Proc, pData, uFlags)) return found;
+            if (CControlUI* found = item->FindControl(Proc, pData, uFlags))
+                return found;
         }
     }
-    if ((uFlags & UIFIND_ME_FIRST) == 0) return CControlUI::FindControl(Proc, pData, uFlags);
+    if ((uFlags & UIFIND_ME_FIRST) == 0)
+        return CControlUI::FindControl(Proc, pData, uFlags);
     return nullptr;
 }
 
@@ -309,7 +356,8 @@ void CContainerUI::DoEvent(TEventUI& event)
             const int track = (m_rcItem.bottom - m_rcInset.bottom) - (m_rcItem.top + m_rcInset.top) -
                               (thumb.bottom - thumb.top);
             if (track > 0) {
-                SetScrollPos(m_iDragStartScroll + (event.ptMouse.y - m_iDragStartY) * GetScrollRange() / track);
+                SetScrollPos(m_iDragStartScroll +
+                             (event.ptMouse.y - m_iDragStartY) * GetScrollRange() / track);
             }
             return;
         }
@@ -323,7 +371,8 @@ void CContainerUI::DoEvent(TEventUI& event)
 
 void CContainerUI::DoPaint(RenderContext& ctx, const RECT& rcPaint)
 {
-    if (!RectsIntersect(rcPaint, m_rcItem)) return;
+    if (!RectsIntersect(rcPaint, m_rcItem))
+        return;
     const bool rounded = m_cxyBorderRound.cx > 0 && m_cxyBorderRound.cy > 0;
     ctx.PushClip(m_rcItem, rounded ? m_cxyBorderRound : SIZE{0, 0});
     PaintBkColor(ctx);
@@ -332,7 +381,8 @@ void CContainerUI::DoPaint(RenderContext& ctx, const RECT& rcPaint)
     PaintText(ctx);
     const RECT childPaint = IntersectRects(rcPaint, m_rcItem);
     for (const auto& item : m_items) {
-        if (!item->IsVisible() || !ctx.IsVisible(item->GetPos()) || !RectsIntersect(childPaint, item->GetPos())) {
+        if (!item->IsVisible() || !ctx.IsVisible(item->GetPos()) ||
+            !RectsIntersect(childPaint, item->GetPos())) {
             continue;
         }
         item->DoPaint(ctx, childPaint);
@@ -345,7 +395,8 @@ void CContainerUI::DoPaint(RenderContext& ctx, const RECT& rcPaint)
 void CContainerUI::PaintScrollBar(RenderContext& ctx)
 {
     const RECT thumb = GetScrollThumbRect();
-    if (RectIsEmpty(thumb)) return;
+    if (RectIsEmpty(thumb))
+        return;
     ctx.FillRoundRect(thumb, kThumbColor, SIZE{6, 6});
 }
 
@@ -353,47 +404,61 @@ void CContainerUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
 {
     using Setter = AttributeSetter<CContainerUI>;
     static const std::unordered_map<std::wstring, Setter> table = {
-        {L"inset", [](CContainerUI& c, const wchar_t* n, const wchar_t* v) { c.SetInset(attr::ParseRect(n, v)); }},
-        {L"childpadding",
-         [](CContainerUI& c, const wchar_t* n, const wchar_t* v) { c.SetChildPadding(attr::ParseInt(n, v)); }},
-        {L"childalign",
-         [](CContainerUI& c, const wchar_t* n, const wchar_t* v) { c.m_uChildAlign = ParseHorizontalAlign(n, v); }},
-        {L"childvalign",
-         [](CContainerUI& c, const wchar_t* n, const wchar_t* v) { c.m_uChildVAlign = ParseVerticalAlign(n, v); }},
-        {L"mousechild",
-         [](CContainerUI& c, const wchar_t* n, const wchar_t* v) { c.SetMouseChildEnabled(attr::ParseBool(n, v)); }},
-        {L"vscrollbar",
-         [](CContainerUI& c, const wchar_t* n, const wchar_t* v) { c.EnableScrollBar(attr::ParseBool(n, v)); }},
+        {L"inset",
+         [](CContainerUI& c, const wchar_t* n, const wchar_t* v) { c.SetInset(attr::ParseRect(n, v)); }},
+        {L"childpadding", [](CContainerUI& c, const wchar_t* n,
+                             const wchar_t* v) { c.SetChildPadding(attr::ParseInt(n, v)); }},
+        {L"childalign", [](CContainerUI& c, const wchar_t* n,
+                           const wchar_t* v) { c.m_uChildAlign = ParseHorizontalAlign(n, v); }},
+        {L"childvalign", [](CContainerUI& c, const wchar_t* n,
+                            const wchar_t* v) { c.m_uChildVAlign = ParseVerticalAlign(n, v); }},
+        {L"mousechild", [](CContainerUI& c, const wchar_t* n,
+                           const wchar_t* v) { c.SetMouseChildEnabled(attr::ParseBool(n, v)); }},
+        {L"vscrollbar", [](CContainerUI& c, const wchar_t* n,
+                           const wchar_t* v) { c.EnableScrollBar(attr::ParseBool(n, v)); }},
     };
-    if (ApplyFromTable(table, *this, pstrName, pstrValue)) return;
+    if (ApplyFromTable(table, *this, pstrName, pstrValue))
+        return;
     CControlUI::SetAttribute(pstrName, pstrValue);
 }
 
 CVerticalLayoutUI::CVerticalLayoutUI() : CContainerUI(std::make_unique<VerticalStackLayout>()) {}
 
-LPCTSTR CVerticalLayoutUI::GetClass() const { return L"VerticalLayoutUI"; }
+LPCTSTR CVerticalLayoutUI::GetClass() const
+{
+    return L"VerticalLayoutUI";
+}
 
 LPVOID CVerticalLayoutUI::GetInterface(LPCTSTR pstrName)
 {
-    if (CompareNoCase(pstrName, DUI_CTR_VERTICALLAYOUT) == 0) return static_cast<CVerticalLayoutUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_VERTICALLAYOUT) == 0)
+        return static_cast<CVerticalLayoutUI*>(this);
     return CContainerUI::GetInterface(pstrName);
 }
 
 CHorizontalLayoutUI::CHorizontalLayoutUI() : CContainerUI(std::make_unique<HorizontalStackLayout>()) {}
 
-LPCTSTR CHorizontalLayoutUI::GetClass() const { return L"HorizontalLayoutUI"; }
+LPCTSTR CHorizontalLayoutUI::GetClass() const
+{
+    return L"HorizontalLayoutUI";
+}
 
 LPVOID CHorizontalLayoutUI::GetInterface(LPCTSTR pstrName)
 {
-    if (CompareNoCase(pstrName, DUI_CTR_HORIZONTALLAYOUT) == 0) return static_cast<CHorizontalLayoutUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_HORIZONTALLAYOUT) == 0)
+        return static_cast<CHorizontalLayoutUI*>(this);
     return CContainerUI::GetInterface(pstrName);
 }
 
-LPCTSTR CTabLayoutUI::GetClass() const { return L"TabLayoutUI"; }
+LPCTSTR CTabLayoutUI::GetClass() const
+{
+    return L"TabLayoutUI";
+}
 
 LPVOID CTabLayoutUI::GetInterface(LPCTSTR pstrName)
 {
-    if (CompareNoCase(pstrName, DUI_CTR_TABLAYOUT) == 0) return static_cast<CTabLayoutUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_TABLAYOUT) == 0)
+        return static_cast<CTabLayoutUI*>(this);
     return CContainerUI::GetInterface(pstrName);
 }
 
@@ -404,11 +469,13 @@ bool CTabLayoutUI::Add(CControlUI* pControl)
 
 bool CTabLayoutUI::AddAt(CControlUI* pControl, int iIndex)
 {
-    if (!CContainerUI::AddAt(pControl, iIndex)) return false;
+    if (!CContainerUI::AddAt(pControl, iIndex))
+        return false;
     if (m_iCurSel == -1 && pControl->IsVisible()) {
         m_iCurSel = GetItemIndex(pControl);
     } else {
-        if (iIndex <= m_iCurSel) ++m_iCurSel;
+        if (iIndex <= m_iCurSel)
+            ++m_iCurSel;
         pControl->SetVisible(false);
     }
     return true;
@@ -417,11 +484,14 @@ bool CTabLayoutUI::AddAt(CControlUI* pControl, int iIndex)
 bool CTabLayoutUI::Remove(CControlUI* pControl, bool bDoNotDestroy)
 {
     const int index = GetItemIndex(pControl);
-    if (index < 0) return false;
-    if (!CContainerUI::RemoveAt(index, bDoNotDestroy)) return false;
+    if (index < 0)
+        return false;
+    if (!CContainerUI::RemoveAt(index, bDoNotDestroy))
+        return false;
     if (index == m_iCurSel) {
         m_iCurSel = -1;
-        if (GetCount() > 0) SelectItem(std::max(0, index - 1));
+        if (GetCount() > 0)
+            SelectItem(std::max(0, index - 1));
     } else if (index < m_iCurSel) {
         --m_iCurSel;
     }
@@ -443,11 +513,14 @@ bool CTabLayoutUI::SelectItem(int iIndex)
         m_pManager->RunOnWindowThread([this, iIndex, &selected] { selected = SelectItem(iIndex); });
         return selected;
     }
-    if (iIndex < 0 || iIndex >= GetCount()) return false;
-    if (iIndex == m_iCurSel) return true;
+    if (iIndex < 0 || iIndex >= GetCount())
+        return false;
+    if (iIndex == m_iCurSel)
+        return true;
     const int old = m_iCurSel;
     m_iCurSel = iIndex;
-    for (int i = 0; i < GetCount(); ++i) GetItemAt(i)->SetVisible(i == iIndex);
+    for (int i = 0; i < GetCount(); ++i)
+        GetItemAt(i)->SetVisible(i == iIndex);
     NeedUpdate();
     Invalidate();
     if (m_pManager != nullptr) {
@@ -458,9 +531,11 @@ bool CTabLayoutUI::SelectItem(int iIndex)
 
 void CTabLayoutUI::DoInit()
 {
-    if (m_iInitialSel < 0 || m_iInitialSel >= GetCount()) return;
+    if (m_iInitialSel < 0 || m_iInitialSel >= GetCount())
+        return;
     m_iCurSel = m_iInitialSel;
-    for (int i = 0; i < GetCount(); ++i) GetItemAt(i)->SetVisible(i == m_iCurSel);
+    for (int i = 0; i < GetCount(); ++i)
+        GetItemAt(i)->SetVisible(i == m_iCurSel);
     m_iInitialSel = -1;
 }
 
@@ -480,4 +555,4 @@ void CTabLayoutUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
     CContainerUI::SetAttribute(pstrName, pstrValue);
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -11,7 +11,8 @@ namespace DuiLib {
 
 class CContainerUI;
 
-class IContainerUI {
+class IContainerUI
+{
 public:
     virtual ~IContainerUI() = default;
     virtual CControlUI* GetItemAt(int iIndex) const = 0;
@@ -31,7 +32,8 @@ public:
 // How a container places its children. The container calls Arrange after
 // its own rectangle changed or a child asked for a new layout; Estimate
 // answers how large the children want the container to be.
-class LayoutStrategy {
+class LayoutStrategy
+{
 public:
     virtual ~LayoutStrategy() = default;
     // Places every visible child inside `area` (the container's rectangle
@@ -44,7 +46,8 @@ public:
 };
 
 // Every child gets the whole area (less its padding), or its fixed size.
-class StackLayout : public LayoutStrategy {
+class StackLayout : public LayoutStrategy
+{
 public:
     int Arrange(CContainerUI& owner, const RECT& area, int scrollY) override;
     SIZE Estimate(CContainerUI& owner, SIZE available) override;
@@ -52,20 +55,23 @@ public:
 
 // Children top to bottom. Fixed heights are kept; children with no fixed
 // height share what remains equally. Widths are fixed or the full width.
-class VerticalStackLayout : public LayoutStrategy {
+class VerticalStackLayout : public LayoutStrategy
+{
 public:
     int Arrange(CContainerUI& owner, const RECT& area, int scrollY) override;
     SIZE Estimate(CContainerUI& owner, SIZE available) override;
 };
 
 // Children left to right, the same rules turned by 90 degrees.
-class HorizontalStackLayout : public LayoutStrategy {
+class HorizontalStackLayout : public LayoutStrategy
+{
 public:
     int Arrange(CContainerUI& owner, const RECT& area, int scrollY) override;
     SIZE Estimate(CContainerUI& owner, SIZE available) override;
 };
 
-class CContainerUI : public CControlUI, public IContainerUI {
+class CContainerUI : public CControlUI, public IContainerUI
+{
 public:
     CContainerUI();
     explicit CContainerUI(std::unique_ptr<LayoutStrategy> layout);
@@ -142,14 +148,16 @@ protected:
     int m_iDragStartScroll = 0;
 };
 
-class CVerticalLayoutUI : public CContainerUI {
+class CVerticalLayoutUI : public CContainerUI
+{
 public:
     CVerticalLayoutUI();
     LPCTSTR GetClass() const override;
     LPVOID GetInterface(LPCTSTR pstrName) override;
 };
 
-class CHorizontalLayoutUI : public CContainerUI {
+class CHorizontalLayoutUI : public CContainerUI
+{
 public:
     CHorizontalLayoutUI();
     LPCTSTR GetClass() const override;
@@ -157,7 +165,8 @@ public:
 };
 
 // Shows one child at a time: the selected page.
-class CTabLayoutUI : public CContainerUI {
+class CTabLayoutUI : public CContainerUI
+{
 public:
     LPCTSTR GetClass() const override;
     LPVOID GetInterface(LPCTSTR pstrName) override;
@@ -183,4 +192,4 @@ private:
 // Width of the vertical scroll bar in logical pixels.
 constexpr int kScrollBarWidth = 8;
 
-}  // namespace DuiLib
+} // namespace DuiLib

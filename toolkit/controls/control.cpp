@@ -19,26 +19,45 @@ const std::unordered_map<std::wstring, Setter>& ControlAttributes()
         {L"tooltip", [](CControlUI& c, const wchar_t*, const wchar_t* v) { c.SetToolTip(v); }},
         {L"userdata", [](CControlUI& c, const wchar_t*, const wchar_t* v) { c.SetUserData(v); }},
         {L"virtualwnd", [](CControlUI& c, const wchar_t*, const wchar_t* v) { c.SetVirtualWnd(v); }},
-        {L"width", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetFixedWidth(attr::ParseInt(n, v)); }},
-        {L"height", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetFixedHeight(attr::ParseInt(n, v)); }},
-        {L"minwidth", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetMinWidth(attr::ParseInt(n, v)); }},
-        {L"maxwidth", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetMaxWidth(attr::ParseInt(n, v)); }},
-        {L"minheight", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetMinHeight(attr::ParseInt(n, v)); }},
-        {L"maxheight", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetMaxHeight(attr::ParseInt(n, v)); }},
-        {L"padding", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetPadding(attr::ParseRect(n, v)); }},
-        {L"visible", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetVisible(attr::ParseBool(n, v)); }},
-        {L"enabled", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetEnabled(attr::ParseBool(n, v)); }},
-        {L"mouse", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetMouseEnabled(attr::ParseBool(n, v)); }},
-        {L"keyboard", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetKeyboardEnabled(attr::ParseBool(n, v)); }},
-        {L"bkcolor", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetBkColor(attr::ParseColor(n, v)); }},
-        {L"forecolor", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetForeColor(attr::ParseColor(n, v)); }},
-        {L"bordercolor", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetBorderColor(attr::ParseColor(n, v)); }},
-        {L"focusbordercolor", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetFocusBorderColor(attr::ParseColor(n, v)); }},
-        {L"bordersize", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetBorderSize(attr::ParseInt(n, v)); }},
-        {L"borderround", [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetBorderRound(attr::ParseSize(n, v)); }},
-        {L"bkimage", [](CControlUI& c, const wchar_t* n, const wchar_t* v) {
+        {L"width",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetFixedWidth(attr::ParseInt(n, v)); }},
+        {L"height",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetFixedHeight(attr::ParseInt(n, v)); }},
+        {L"minwidth",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetMinWidth(attr::ParseInt(n, v)); }},
+        {L"maxwidth",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetMaxWidth(attr::ParseInt(n, v)); }},
+        {L"minheight",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetMinHeight(attr::ParseInt(n, v)); }},
+        {L"maxheight",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetMaxHeight(attr::ParseInt(n, v)); }},
+        {L"padding",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetPadding(attr::ParseRect(n, v)); }},
+        {L"visible",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetVisible(attr::ParseBool(n, v)); }},
+        {L"enabled",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetEnabled(attr::ParseBool(n, v)); }},
+        {L"mouse",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetMouseEnabled(attr::ParseBool(n, v)); }},
+        {L"keyboard", [](CControlUI& c, const wchar_t* n,
+                         const wchar_t* v) { c.SetKeyboardEnabled(attr::ParseBool(n, v)); }},
+        {L"bkcolor",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetBkColor(attr::ParseColor(n, v)); }},
+        {L"forecolor",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetForeColor(attr::ParseColor(n, v)); }},
+        {L"bordercolor",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetBorderColor(attr::ParseColor(n, v)); }},
+        {L"focusbordercolor", [](CControlUI& c, const wchar_t* n,
+                                 const wchar_t* v) { c.SetFocusBorderColor(attr::ParseColor(n, v)); }},
+        {L"bordersize",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetBorderSize(attr::ParseInt(n, v)); }},
+        {L"borderround",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetBorderRound(attr::ParseSize(n, v)); }},
+        {L"bkimage",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) {
              ImageSpec spec;
-             if (!ImageSpec::Parse(v, spec)) throw AttributeError(AttributeError::Kind::BadValue, n, v);
+             if (!ImageSpec::Parse(v, spec))
+                 throw AttributeError(AttributeError::Kind::BadValue, n, v);
              c.SetBkImage(v);
          }},
     };
@@ -50,54 +69,77 @@ bool SameRect(const RECT& a, const RECT& b)
     return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
 }
 
-}  // namespace
+} // namespace
 
 CControlUI::CControlUI() = default;
 
 CControlUI::~CControlUI()
 {
-    if (m_pManager != nullptr) m_pManager->ReapObjects(this);
+    if (m_pManager != nullptr)
+        m_pManager->ReapObjects(this);
 }
 
-CDuiString CControlUI::GetName() const { return m_sName; }
+CDuiString CControlUI::GetName() const
+{
+    return m_sName;
+}
 
 void CControlUI::SetName(LPCTSTR pstrName)
 {
     m_sName = pstrName;
 }
 
-LPCTSTR CControlUI::GetClass() const { return L"ControlUI"; }
+LPCTSTR CControlUI::GetClass() const
+{
+    return L"ControlUI";
+}
 
 LPVOID CControlUI::GetInterface(LPCTSTR pstrName)
 {
-    if (CompareNoCase(pstrName, DUI_CTR_CONTROL) == 0) return this;
+    if (CompareNoCase(pstrName, DUI_CTR_CONTROL) == 0)
+        return this;
     return nullptr;
 }
 
-UINT CControlUI::GetControlFlags() const { return 0; }
+UINT CControlUI::GetControlFlags() const
+{
+    return 0;
+}
 
 bool CControlUI::Activate()
 {
     return IsVisible() && IsEnabled();
 }
 
-CPaintManagerUI* CControlUI::GetManager() const { return m_pManager; }
+CPaintManagerUI* CControlUI::GetManager() const
+{
+    return m_pManager;
+}
 
 void CControlUI::SetManager(CPaintManagerUI* pManager, CControlUI* pParent, bool bInit)
 {
-    if (m_pManager != nullptr && m_pManager != pManager) m_pManager->ReapObjects(this);
+    if (m_pManager != nullptr && m_pManager != pManager)
+        m_pManager->ReapObjects(this);
     m_pManager = pManager;
     m_pParent = pParent;
-    if (bInit && m_pParent != nullptr) Init();
+    if (bInit && m_pParent != nullptr)
+        Init();
 }
 
-CControlUI* CControlUI::GetParent() const { return m_pParent; }
+CControlUI* CControlUI::GetParent() const
+{
+    return m_pParent;
+}
 
-CDuiString CControlUI::GetText() const { return m_sText; }
+CDuiString CControlUI::GetText() const
+{
+    return m_sText;
+}
 
 void CControlUI::SetText(LPCTSTR pstrText)
 {
-    if (m_sText == pstrText) return;
+    if (m_sText == pstrText)
+        return;
     m_sText = pstrText;
     // A text change can change an automatic width.
     NeedParentUpdate();
@@ -106,143 +148,189 @@ void CControlUI::SetText(LPCTSTR pstrText)
 
 void CControlUI::SetBkColor(DWORD dwBackColor)
 {
-    if (m_dwBackColor == dwBackColor) return;
+    if (m_dwBackColor == dwBackColor)
+        return;
     m_dwBackColor = dwBackColor;
     Invalidate();
 }
 
 void CControlUI::SetForeColor(DWORD dwForeColor)
 {
-    if (m_dwForeColor == dwForeColor) return;
+    if (m_dwForeColor == dwForeColor)
+        return;
     m_dwForeColor = dwForeColor;
     Invalidate();
 }
 
 void CControlUI::SetBorderColor(DWORD dwBorderColor)
 {
-    if (m_dwBorderColor == dwBorderColor) return;
+    if (m_dwBorderColor == dwBorderColor)
+        return;
     m_dwBorderColor = dwBorderColor;
     Invalidate();
 }
 
 void CControlUI::SetFocusBorderColor(DWORD dwBorderColor)
 {
-    if (m_dwFocusBorderColor == dwBorderColor) return;
+    if (m_dwFocusBorderColor == dwBorderColor)
+        return;
     m_dwFocusBorderColor = dwBorderColor;
     Invalidate();
 }
 
 void CControlUI::SetBorderSize(int nSize)
 {
-    if (m_nBorderSize == nSize) return;
+    if (m_nBorderSize == nSize)
+        return;
     m_nBorderSize = nSize;
     Invalidate();
 }
 
 void CControlUI::SetBorderRound(SIZE cxyRound)
 {
-    if (m_cxyBorderRound.cx == cxyRound.cx && m_cxyBorderRound.cy == cxyRound.cy) return;
+    if (m_cxyBorderRound.cx == cxyRound.cx && m_cxyBorderRound.cy == cxyRound.cy)
+        return;
     m_cxyBorderRound = cxyRound;
     Invalidate();
 }
 
 void CControlUI::SetBkImage(LPCTSTR pStrImage)
 {
-    if (m_sBkImage == pStrImage) return;
+    if (m_sBkImage == pStrImage)
+        return;
     m_sBkImage = pStrImage;
     Invalidate();
 }
 
-const RECT& CControlUI::GetPos() const { return m_rcItem; }
+const RECT& CControlUI::GetPos() const
+{
+    return m_rcItem;
+}
 
 void CControlUI::SetPos(RECT rc, bool bNeedInvalidate)
 {
-    if (rc.right < rc.left) rc.right = rc.left;
-    if (rc.bottom < rc.top) rc.bottom = rc.top;
+    if (rc.right < rc.left)
+        rc.right = rc.left;
+    if (rc.bottom < rc.top)
+        rc.bottom = rc.top;
     m_bUpdateNeeded = false;
-    if (SameRect(rc, m_rcItem)) return;
-    if (bNeedInvalidate) Invalidate();
+    if (SameRect(rc, m_rcItem))
+        return;
+    if (bNeedInvalidate)
+        Invalidate();
     m_rcItem = rc;
-    if (bNeedInvalidate) Invalidate();
+    if (bNeedInvalidate)
+        Invalidate();
 }
 
-RECT CControlUI::GetPadding() const { return m_rcPadding; }
+RECT CControlUI::GetPadding() const
+{
+    return m_rcPadding;
+}
 
 void CControlUI::SetPadding(RECT rcPadding)
 {
-    if (SameRect(rcPadding, m_rcPadding)) return;
+    if (SameRect(rcPadding, m_rcPadding))
+        return;
     m_rcPadding = rcPadding;
     NeedParentUpdate();
 }
 
-int CControlUI::GetFixedWidth() const { return m_cxyFixed.cx; }
+int CControlUI::GetFixedWidth() const
+{
+    return m_cxyFixed.cx;
+}
 
 void CControlUI::SetFixedWidth(int cx)
 {
-    if (cx < 0 || m_cxyFixed.cx == cx) return;
+    if (cx < 0 || m_cxyFixed.cx == cx)
+        return;
     m_cxyFixed.cx = cx;
     NeedParentUpdate();
 }
 
-int CControlUI::GetFixedHeight() const { return m_cxyFixed.cy; }
+int CControlUI::GetFixedHeight() const
+{
+    return m_cxyFixed.cy;
+}
 
 void CControlUI::SetFixedHeight(int cy)
 {
-    if (cy < 0 || m_cxyFixed.cy == cy) return;
+    if (cy < 0 || m_cxyFixed.cy == cy)
+        return;
     m_cxyFixed.cy = cy;
     NeedParentUpdate();
 }
 
 void CControlUI::SetMinWidth(int cx)
 {
-    if (cx < 0 || m_cxyMin.cx == cx) return;
+    if (cx < 0 || m_cxyMin.cx == cx)
+        return;
     m_cxyMin.cx = cx;
     NeedParentUpdate();
 }
 
 void CControlUI::SetMaxWidth(int cx)
 {
-    if (cx < 0 || m_cxyMax.cx == cx) return;
+    if (cx < 0 || m_cxyMax.cx == cx)
+        return;
     m_cxyMax.cx = cx;
     NeedParentUpdate();
 }
 
 void CControlUI::SetMinHeight(int cy)
 {
-    if (cy < 0 || m_cxyMin.cy == cy) return;
+    if (cy < 0 || m_cxyMin.cy == cy)
+        return;
     m_cxyMin.cy = cy;
     NeedParentUpdate();
 }
 
 void CControlUI::SetMaxHeight(int cy)
 {
-    if (cy < 0 || m_cxyMax.cy == cy) return;
+    if (cy < 0 || m_cxyMax.cy == cy)
+        return;
     m_cxyMax.cy = cy;
     NeedParentUpdate();
 }
 
-CDuiString CControlUI::GetToolTip() const { return m_sToolTip; }
+CDuiString CControlUI::GetToolTip() const
+{
+    return m_sToolTip;
+}
 
-void CControlUI::SetToolTip(LPCTSTR pstrText) { m_sToolTip = pstrText; }
+void CControlUI::SetToolTip(LPCTSTR pstrText)
+{
+    m_sToolTip = pstrText;
+}
 
 CDuiString CControlUI::GetVirtualWnd() const
 {
     for (const CControlUI* c = this; c != nullptr; c = c->m_pParent) {
-        if (!c->m_sVirtualWnd.IsEmpty()) return c->m_sVirtualWnd;
+        if (!c->m_sVirtualWnd.IsEmpty())
+            return c->m_sVirtualWnd;
     }
     return CDuiString();
 }
 
-void CControlUI::SetVirtualWnd(LPCTSTR pstrValue) { m_sVirtualWnd = pstrValue; }
+void CControlUI::SetVirtualWnd(LPCTSTR pstrValue)
+{
+    m_sVirtualWnd = pstrValue;
+}
 
-bool CControlUI::IsVisible() const { return m_bVisible && m_bInternVisible; }
+bool CControlUI::IsVisible() const
+{
+    return m_bVisible && m_bInternVisible;
+}
 
 void CControlUI::SetVisible(bool bVisible)
 {
-    if (m_bVisible == bVisible) return;
+    if (m_bVisible == bVisible)
+        return;
     const bool wasVisible = IsVisible();
     m_bVisible = bVisible;
-    if (m_bFocused && !bVisible) m_bFocused = false;
+    if (m_bFocused && !bVisible)
+        m_bFocused = false;
     if (wasVisible != IsVisible()) {
         NeedParentUpdate();
         Invalidate();
@@ -251,39 +339,62 @@ void CControlUI::SetVisible(bool bVisible)
 
 void CControlUI::SetInternVisible(bool bVisible)
 {
-    if (m_bInternVisible == bVisible) return;
+    if (m_bInternVisible == bVisible)
+        return;
     m_bInternVisible = bVisible;
     NeedParentUpdate();
 }
 
-bool CControlUI::IsEnabled() const { return m_bEnabled; }
+bool CControlUI::IsEnabled() const
+{
+    return m_bEnabled;
+}
 
 void CControlUI::SetEnabled(bool bEnable)
 {
-    if (m_bEnabled == bEnable) return;
+    if (m_bEnabled == bEnable)
+        return;
     m_bEnabled = bEnable;
     Invalidate();
 }
 
-bool CControlUI::IsMouseEnabled() const { return m_bMouseEnabled; }
+bool CControlUI::IsMouseEnabled() const
+{
+    return m_bMouseEnabled;
+}
 
-void CControlUI::SetMouseEnabled(bool bEnable) { m_bMouseEnabled = bEnable; }
+void CControlUI::SetMouseEnabled(bool bEnable)
+{
+    m_bMouseEnabled = bEnable;
+}
 
-bool CControlUI::IsKeyboardEnabled() const { return m_bKeyboardEnabled; }
+bool CControlUI::IsKeyboardEnabled() const
+{
+    return m_bKeyboardEnabled;
+}
 
-void CControlUI::SetKeyboardEnabled(bool bEnable) { m_bKeyboardEnabled = bEnable; }
+void CControlUI::SetKeyboardEnabled(bool bEnable)
+{
+    m_bKeyboardEnabled = bEnable;
+}
 
-bool CControlUI::IsFocused() const { return m_bFocused; }
+bool CControlUI::IsFocused() const
+{
+    return m_bFocused;
+}
 
 void CControlUI::SetFocus()
 {
-    if (m_pManager != nullptr) m_pManager->SetFocus(this);
+    if (m_pManager != nullptr)
+        m_pManager->SetFocus(this);
 }
 
 CControlUI* CControlUI::FindControl(FINDCONTROLPROC Proc, LPVOID pData, UINT uFlags)
 {
-    if ((uFlags & UIFIND_VISIBLE) != 0 && !IsVisible()) return nullptr;
-    if ((uFlags & UIFIND_ENABLED) != 0 && !IsEnabled()) return nullptr;
+    if ((uFlags & UIFIND_VISIBLE) != 0 && !IsVisible())
+        return nullptr;
+    if ((uFlags & UIFIND_ENABLED) != 0 && !IsEnabled())
+        return nullptr;
     if ((uFlags & UIFIND_HITTEST) != 0) {
         const POINT* pt = static_cast<const POINT*>(pData);
         if (!m_bMouseEnabled || pt->x < m_rcItem.left || pt->x >= m_rcItem.right || pt->y < m_rcItem.top ||
@@ -296,13 +407,15 @@ CControlUI* CControlUI::FindControl(FINDCONTROLPROC Proc, LPVOID pData, UINT uFl
 
 void CControlUI::Invalidate()
 {
-    if (m_pManager != nullptr && IsVisible()) m_pManager->Invalidate(m_rcItem);
+    if (m_pManager != nullptr && IsVisible())
+        m_pManager->Invalidate(m_rcItem);
 }
 
 void CControlUI::NeedUpdate()
 {
     m_bUpdateNeeded = true;
-    if (m_pManager != nullptr) m_pManager->NeedUpdate();
+    if (m_pManager != nullptr)
+        m_pManager->NeedUpdate();
 }
 
 void CControlUI::NeedParentUpdate()
@@ -338,12 +451,14 @@ void CControlUI::DoEvent(TEventUI& event)
         Invalidate();
         return;
     }
-    if (m_pParent != nullptr) m_pParent->DoEvent(event);
+    if (m_pParent != nullptr)
+        m_pParent->DoEvent(event);
 }
 
 void CControlUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
 {
-    if (ApplyFromTable(ControlAttributes(), *this, pstrName, pstrValue)) return;
+    if (ApplyFromTable(ControlAttributes(), *this, pstrName, pstrValue))
+        return;
     throw AttributeError(AttributeError::Kind::UnknownAttribute, pstrName ? pstrName : L"",
                          pstrValue ? pstrValue : L"");
 }
@@ -353,7 +468,8 @@ CControlUI* CControlUI::ApplyAttributeList(LPCTSTR pstrList)
     const bool ok = attr::ForEachInList(pstrList, [this](const std::wstring& key, const std::wstring& value) {
         SetAttribute(key.c_str(), value.c_str());
     });
-    if (!ok) throw AttributeError(AttributeError::Kind::BadValue, L"attribute list", pstrList ? pstrList : L"");
+    if (!ok)
+        throw AttributeError(AttributeError::Kind::BadValue, L"attribute list", pstrList ? pstrList : L"");
     return this;
 }
 
@@ -364,14 +480,17 @@ SIZE CControlUI::EstimateSize(SIZE)
 
 void CControlUI::DoPaint(RenderContext& ctx, const RECT& rcPaint)
 {
-    if (!RectsIntersect(rcPaint, m_rcItem)) return;
+    if (!RectsIntersect(rcPaint, m_rcItem))
+        return;
     const bool rounded = m_cxyBorderRound.cx > 0 && m_cxyBorderRound.cy > 0;
-    if (rounded) ctx.PushClip(m_rcItem, m_cxyBorderRound, GetRoundCorners());
+    if (rounded)
+        ctx.PushClip(m_rcItem, m_cxyBorderRound, GetRoundCorners());
     PaintBkColor(ctx);
     PaintBkImage(ctx);
     PaintStatusImage(ctx);
     PaintText(ctx);
-    if (rounded) ctx.PopClip();
+    if (rounded)
+        ctx.PopClip();
     PaintBorder(ctx);
 }
 
@@ -382,7 +501,8 @@ void CControlUI::PaintBkColor(RenderContext& ctx)
 
 void CControlUI::PaintBkImage(RenderContext& ctx)
 {
-    if (!m_sBkImage.IsEmpty()) DrawImage(ctx, m_sBkImage);
+    if (!m_sBkImage.IsEmpty())
+        DrawImage(ctx, m_sBkImage);
 }
 
 void CControlUI::PaintStatusImage(RenderContext&) {}
@@ -397,11 +517,14 @@ void CControlUI::PaintBorder(RenderContext& ctx)
 
 bool CControlUI::DrawImage(RenderContext& ctx, const CDuiString& image)
 {
-    if (m_pManager == nullptr || image.IsEmpty()) return false;
+    if (m_pManager == nullptr || image.IsEmpty())
+        return false;
     ImageSpec spec;
-    if (!ImageSpec::Parse(image.str(), spec)) return false;
+    if (!ImageSpec::Parse(image.str(), spec))
+        return false;
     const auto loaded = m_pManager->GetImage(spec.file.c_str());
-    if (!loaded) return false;
+    if (!loaded)
+        return false;
     RECT dest = m_rcItem;
     if (spec.hasDest) {
         dest.left = m_rcItem.left + spec.dest[0];
@@ -413,4 +536,4 @@ bool CControlUI::DrawImage(RenderContext& ctx, const CDuiString& image)
     return true;
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -18,7 +18,8 @@ namespace DuiLib {
 
 class CPaintManagerUI;
 
-class CControlUI {
+class CControlUI
+{
 public:
     CControlUI();
     virtual ~CControlUI();
@@ -183,9 +184,10 @@ template <class Control, class Table>
 bool ApplyFromTable(const Table& table, Control& control, LPCTSTR name, LPCTSTR value)
 {
     const auto found = table.find(name ? name : L"");
-    if (found == table.end()) return false;
+    if (found == table.end())
+        return false;
     found->second(control, name, value ? value : L"");
     return true;
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

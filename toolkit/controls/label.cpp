@@ -13,44 +13,53 @@ UINT ReplaceBits(UINT style, UINT mask, UINT bits)
     return (style & ~mask) | bits;
 }
 
-}  // namespace
+} // namespace
 
 CLabelUI::CLabelUI() = default;
 
-LPCTSTR CLabelUI::GetClass() const { return L"LabelUI"; }
+LPCTSTR CLabelUI::GetClass() const
+{
+    return L"LabelUI";
+}
 
 LPVOID CLabelUI::GetInterface(LPCTSTR pstrName)
 {
-    if (CompareNoCase(pstrName, DUI_CTR_LABEL) == 0) return static_cast<CLabelUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_LABEL) == 0)
+        return static_cast<CLabelUI*>(this);
     return CControlUI::GetInterface(pstrName);
 }
 
 void CLabelUI::SetTextStyle(UINT uStyle)
 {
-    if (m_uTextStyle == uStyle) return;
+    if (m_uTextStyle == uStyle)
+        return;
     m_uTextStyle = uStyle;
     Invalidate();
 }
 
 void CLabelUI::SetTextColor(DWORD dwTextColor)
 {
-    if (m_dwTextColor == dwTextColor) return;
+    if (m_dwTextColor == dwTextColor)
+        return;
     m_dwTextColor = dwTextColor;
     Invalidate();
 }
 
 void CLabelUI::SetDisabledTextColor(DWORD dwTextColor)
 {
-    if (m_dwDisabledTextColor == dwTextColor) return;
+    if (m_dwDisabledTextColor == dwTextColor)
+        return;
     m_dwDisabledTextColor = dwTextColor;
     Invalidate();
 }
 
 void CLabelUI::SetFont(int index)
 {
-    if (m_iFont == index) return;
+    if (m_iFont == index)
+        return;
     m_iFont = index;
-    if (m_bAutoCalcWidth) NeedParentUpdate();
+    if (m_bAutoCalcWidth)
+        NeedParentUpdate();
     Invalidate();
 }
 
@@ -63,7 +72,8 @@ void CLabelUI::SetTextPadding(RECT rc)
 
 void CLabelUI::SetAutoCalcWidth(bool bAutoCalcWidth)
 {
-    if (m_bAutoCalcWidth == bAutoCalcWidth) return;
+    if (m_bAutoCalcWidth == bAutoCalcWidth)
+        return;
     m_bAutoCalcWidth = bAutoCalcWidth;
     NeedParentUpdate();
 }
@@ -73,7 +83,8 @@ SIZE CLabelUI::EstimateSize(SIZE szAvailable)
     SIZE size = CControlUI::EstimateSize(szAvailable);
     if (m_bAutoCalcWidth && m_pManager != nullptr) {
         const HFONT font = m_pManager->GetFont(m_iFont);
-        const SIZE text = MeasureText(m_sText.str(), *font, DT_SINGLELINE, 0, m_pManager->GetDPIObj()->GetScaleFactor());
+        const SIZE text =
+            MeasureText(m_sText.str(), *font, DT_SINGLELINE, 0, m_pManager->GetDPIObj()->GetScaleFactor());
         size.cx = text.cx + m_rcTextPadding.left + m_rcTextPadding.right;
     }
     return size;
@@ -81,14 +92,17 @@ SIZE CLabelUI::EstimateSize(SIZE szAvailable)
 
 DWORD CLabelUI::CurrentTextColor() const
 {
-    if (!IsEnabled() && m_dwDisabledTextColor != 0) return m_dwDisabledTextColor;
-    if (m_dwTextColor != 0) return m_dwTextColor;
+    if (!IsEnabled() && m_dwDisabledTextColor != 0)
+        return m_dwDisabledTextColor;
+    if (m_dwTextColor != 0)
+        return m_dwTextColor;
     return m_pManager != nullptr ? m_pManager->GetDefaultFontColor() : 0xFF000000;
 }
 
 void CLabelUI::PaintText(RenderContext& ctx)
 {
-    if (m_sText.IsEmpty() || m_pManager == nullptr) return;
+    if (m_sText.IsEmpty() || m_pManager == nullptr)
+        return;
     RECT rc = m_rcItem;
     rc.left += m_rcTextPadding.left;
     rc.top += m_rcTextPadding.top;
@@ -101,34 +115,45 @@ void CLabelUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
 {
     using Setter = AttributeSetter<CLabelUI>;
     static const std::unordered_map<std::wstring, Setter> table = {
-        {L"textcolor", [](CLabelUI& c, const wchar_t* n, const wchar_t* v) { c.SetTextColor(attr::ParseColor(n, v)); }},
-        {L"disabledtextcolor",
-         [](CLabelUI& c, const wchar_t* n, const wchar_t* v) { c.SetDisabledTextColor(attr::ParseColor(n, v)); }},
+        {L"textcolor",
+         [](CLabelUI& c, const wchar_t* n, const wchar_t* v) { c.SetTextColor(attr::ParseColor(n, v)); }},
+        {L"disabledtextcolor", [](CLabelUI& c, const wchar_t* n,
+                                  const wchar_t* v) { c.SetDisabledTextColor(attr::ParseColor(n, v)); }},
         {L"font", [](CLabelUI& c, const wchar_t* n, const wchar_t* v) { c.SetFont(attr::ParseInt(n, v)); }},
-        {L"textpadding", [](CLabelUI& c, const wchar_t* n, const wchar_t* v) { c.SetTextPadding(attr::ParseRect(n, v)); }},
+        {L"textpadding",
+         [](CLabelUI& c, const wchar_t* n, const wchar_t* v) { c.SetTextPadding(attr::ParseRect(n, v)); }},
         {L"autocalcwidth",
          [](CLabelUI& c, const wchar_t* n, const wchar_t* v) { c.SetAutoCalcWidth(attr::ParseBool(n, v)); }},
         {L"align",
          [](CLabelUI& c, const wchar_t* n, const wchar_t* v) {
              const std::wstring s = v;
              const UINT mask = DT_LEFT | DT_CENTER | DT_RIGHT;
-             if (s == L"left") c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_LEFT));
-             else if (s == L"center") c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_CENTER));
-             else if (s == L"right") c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_RIGHT));
-             else throw AttributeError(AttributeError::Kind::BadValue, n, v);
+             if (s == L"left")
+                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_LEFT));
+             else if (s == L"center")
+                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_CENTER));
+             else if (s == L"right")
+                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_RIGHT));
+             else
+                 throw AttributeError(AttributeError::Kind::BadValue, n, v);
          }},
         {L"valign",
          [](CLabelUI& c, const wchar_t* n, const wchar_t* v) {
              const std::wstring s = v;
              const UINT mask = DT_TOP | DT_VCENTER | DT_BOTTOM;
-             if (s == L"top") c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_TOP));
-             else if (s == L"vcenter" || s == L"center") c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_VCENTER));
-             else if (s == L"bottom") c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_BOTTOM));
-             else throw AttributeError(AttributeError::Kind::BadValue, n, v);
+             if (s == L"top")
+                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_TOP));
+             else if (s == L"vcenter" || s == L"center")
+                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_VCENTER));
+             else if (s == L"bottom")
+                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_BOTTOM));
+             else
+                 throw AttributeError(AttributeError::Kind::BadValue, n, v);
          }},
         {L"endellipsis",
          [](CLabelUI& c, const wchar_t* n, const wchar_t* v) {
-             c.SetTextStyle(ReplaceBits(c.GetTextStyle(), DT_END_ELLIPSIS, attr::ParseBool(n, v) ? DT_END_ELLIPSIS : 0));
+             c.SetTextStyle(
+                 ReplaceBits(c.GetTextStyle(), DT_END_ELLIPSIS, attr::ParseBool(n, v) ? DT_END_ELLIPSIS : 0));
          }},
         {L"multiline",
          [](CLabelUI& c, const wchar_t* n, const wchar_t* v) {
@@ -137,7 +162,8 @@ void CLabelUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
                                         multi ? DT_WORDBREAK : DT_SINGLELINE));
          }},
     };
-    if (ApplyFromTable(table, *this, pstrName, pstrValue)) return;
+    if (ApplyFromTable(table, *this, pstrName, pstrValue))
+        return;
     CControlUI::SetAttribute(pstrName, pstrValue);
 }
 
@@ -146,12 +172,16 @@ CTextUI::CTextUI()
     m_uTextStyle = DT_WORDBREAK;
 }
 
-LPCTSTR CTextUI::GetClass() const { return L"TextUI"; }
+LPCTSTR CTextUI::GetClass() const
+{
+    return L"TextUI";
+}
 
 LPVOID CTextUI::GetInterface(LPCTSTR pstrName)
 {
-    if (CompareNoCase(pstrName, DUI_CTR_TEXT) == 0) return static_cast<CTextUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_TEXT) == 0)
+        return static_cast<CTextUI*>(this);
     return CLabelUI::GetInterface(pstrName);
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

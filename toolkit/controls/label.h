@@ -6,7 +6,8 @@
 
 namespace DuiLib {
 
-class CLabelUI : public CControlUI {
+class CLabelUI : public CControlUI
+{
 public:
     CLabelUI();
     LPCTSTR GetClass() const override;
@@ -45,11 +46,12 @@ protected:
     bool m_bAutoCalcWidth = false;
 };
 
-class CTextUI : public CLabelUI {
+class CTextUI : public CLabelUI
+{
 public:
     CTextUI();
     LPCTSTR GetClass() const override;
     LPVOID GetInterface(LPCTSTR pstrName) override;
 };
 
-}  // namespace DuiLib
+} // namespace DuiLib

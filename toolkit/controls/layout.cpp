@@ -11,7 +11,8 @@ int Clamp(int value, int low, int high)
     return std::max(low, std::min(value, high));
 }
 
-struct Child {
+struct Child
+{
     CControlUI* control;
     SIZE wanted;
     RECT padding;
@@ -21,7 +22,8 @@ std::vector<Child> VisibleChildren(CContainerUI& owner, SIZE available)
 {
     std::vector<Child> children;
     for (const auto& item : owner.items()) {
-        if (!item->IsVisible()) continue;
+        if (!item->IsVisible())
+            continue;
         children.push_back(Child{item.get(), item->EstimateSize(available), item->GetPadding()});
     }
     return children;
@@ -30,13 +32,16 @@ std::vector<Child> VisibleChildren(CContainerUI& owner, SIZE available)
 // Position of a child of `size` within [start, start + room) by alignment.
 int Align(int start, int room, int size, bool centre, bool end)
 {
-    if (centre) return start + (room - size) / 2;
-    if (end) return start + room - size;
+    if (centre)
+        return start + (room - size) / 2;
+    if (end)
+        return start + room - size;
     return start;
 }
 
 // How a stack measures its children along the axis it stacks them on.
-struct VerticalAxis {
+struct VerticalAxis
+{
     static int Wanted(const Child& c) { return c.wanted.cy; }
     static int Before(const Child& c) { return c.padding.top; }
     static int After(const Child& c) { return c.padding.bottom; }
@@ -44,7 +49,8 @@ struct VerticalAxis {
     static int Max(const Child& c) { return c.control->GetMaxHeight(); }
 };
 
-struct HorizontalAxis {
+struct HorizontalAxis
+{
     static int Wanted(const Child& c) { return c.wanted.cx; }
     static int Before(const Child& c) { return c.padding.left; }
     static int After(const Child& c) { return c.padding.right; }
@@ -55,14 +61,14 @@ struct HorizontalAxis {
 // The children's extents along a stack of `room` pixels: a child with a
 // size of its own keeps it (within its limits); the others share what is
 // left, the last of them taking the rounding remainder.
-struct StackSplit {
+struct StackSplit
+{
     std::vector<int> sizes;
-    int fixedTotal = 0;  // paddings, gaps and own sizes: the stack's extent when nothing is flexible
+    int fixedTotal = 0; // paddings, gaps and own sizes: the stack's extent when nothing is flexible
     int flexible = 0;
 };
 
-template <class Axis>
-StackSplit SplitStack(const std::vector<Child>& children, int room, int childPadding)
+template <class Axis> StackSplit SplitStack(const std::vector<Child>& children, int room, int childPadding)
 {
     StackSplit split;
     split.fixedTotal = childPadding * static_cast<int>(children.size() - 1);
@@ -88,7 +94,7 @@ StackSplit SplitStack(const std::vector<Child>& children, int room, int childPad
     return split;
 }
 
-}  // namespace
+} // namespace
 
 int StackLayout::Arrange(CContainerUI& owner, const RECT& area, int scrollY)
 {
@@ -105,7 +111,8 @@ int StackLayout::Arrange(CContainerUI& owner, const RECT& area, int scrollY)
         const int x = Align(area.left + pad.left, roomW, w, owner.GetChildAlign() & DT_CENTER,
                             owner.GetChildAlign() & DT_RIGHT);
         const int y = Align(area.top + pad.top, roomH, h, owner.GetChildVAlign() & DT_VCENTER,
-                            owner.GetChildVAlign() & DT_BOTTOM) - scrollY;
+                            owner.GetChildVAlign() & DT_BOTTOM) -
+                      scrollY;
         child.control->SetPos(RECT{x, y, x + w, y + h}, false);
         contentHeight = std::max(contentHeight, h + pad.top + pad.bottom);
     }
@@ -126,7 +133,8 @@ int VerticalStackLayout::Arrange(CContainerUI& owner, const RECT& area, int scro
 {
     const SIZE available{area.right - area.left, area.bottom - area.top};
     auto children = VisibleChildren(owner, available);
-    if (children.empty()) return 0;
+    if (children.empty())
+        return 0;
 
     const StackSplit split = SplitStack<VerticalAxis>(children, available.cy, owner.GetChildPadding());
 
@@ -148,7 +156,8 @@ int VerticalStackLayout::Arrange(CContainerUI& owner, const RECT& area, int scro
         y += pad.top;
         child.control->SetPos(RECT{x, y, x + w, y + h}, false);
         y += h + pad.bottom;
-        if (i + 1 < children.size()) y += owner.GetChildPadding();
+        if (i + 1 < children.size())
+            y += owner.GetChildPadding();
     }
     return y - top;
 }
@@ -161,7 +170,8 @@ SIZE VerticalStackLayout::Estimate(CContainerUI& owner, SIZE available)
         size.cx = std::max<LONG>(size.cx, child.wanted.cx + child.padding.left + child.padding.right);
         size.cy += child.wanted.cy + child.padding.top + child.padding.bottom;
     }
-    if (!children.empty()) size.cy += owner.GetChildPadding() * static_cast<int>(children.size() - 1);
+    if (!children.empty())
+        size.cy += owner.GetChildPadding() * static_cast<int>(children.size() - 1);
     return size;
 }
 
@@ -169,7 +179,8 @@ int HorizontalStackLayout::Arrange(CContainerUI& owner, const RECT& area, int sc
 {
     const SIZE available{area.right - area.left, area.bottom - area.top};
     auto children = VisibleChildren(owner, available);
-    if (children.empty()) return 0;
+    if (children.empty())
+        return 0;
 
     const StackSplit split = SplitStack<HorizontalAxis>(children, available.cx, owner.GetChildPadding());
 
@@ -187,11 +198,13 @@ int HorizontalStackLayout::Arrange(CContainerUI& owner, const RECT& area, int sc
         const int h = Clamp(child.wanted.cy > 0 ? child.wanted.cy : roomH, child.control->GetMinHeight(),
                             child.control->GetMaxHeight());
         const int y = Align(area.top + pad.top, roomH, h, owner.GetChildVAlign() & DT_VCENTER,
-                            owner.GetChildVAlign() & DT_BOTTOM) - scrollY;
+                            owner.GetChildVAlign() & DT_BOTTOM) -
+                      scrollY;
         x += pad.left;
         child.control->SetPos(RECT{x, y, x + w, y + h}, false);
         x += w + pad.right;
-        if (i + 1 < children.size()) x += owner.GetChildPadding();
+        if (i + 1 < children.size())
+            x += owner.GetChildPadding();
         contentHeight = std::max(contentHeight, h + pad.top + pad.bottom);
     }
     return contentHeight;
@@ -205,8 +218,9 @@ SIZE HorizontalStackLayout::Estimate(CContainerUI& owner, SIZE available)
         size.cx += child.wanted.cx + child.padding.left + child.padding.right;
         size.cy = std::max<LONG>(size.cy, child.wanted.cy + child.padding.top + child.padding.bottom);
     }
-    if (!children.empty()) size.cx += owner.GetChildPadding() * static_cast<int>(children.size() - 1);
+    if (!children.empty())
+        size.cx += owner.GetChildPadding() * static_cast<int>(children.size() - 1);
     return size;
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -13,19 +13,24 @@ IListItemUI* AsListItem(CControlUI* control)
     return control ? static_cast<IListItemUI*>(control->GetInterface(DUI_CTR_LISTITEM)) : nullptr;
 }
 
-}  // namespace
+} // namespace
 
 CListUI::CListUI()
 {
     EnableScrollBar(true);
 }
 
-LPCTSTR CListUI::GetClass() const { return L"ListUI"; }
+LPCTSTR CListUI::GetClass() const
+{
+    return L"ListUI";
+}
 
 LPVOID CListUI::GetInterface(LPCTSTR pstrName)
 {
-    if (CompareNoCase(pstrName, DUI_CTR_LIST) == 0) return static_cast<CListUI*>(this);
-    if (CompareNoCase(pstrName, DUI_CTR_ILISTOWNER) == 0) return static_cast<IListOwnerUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_LIST) == 0)
+        return static_cast<CListUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_ILISTOWNER) == 0)
+        return static_cast<IListOwnerUI*>(this);
     return CVerticalLayoutUI::GetInterface(pstrName);
 }
 
@@ -36,9 +41,12 @@ bool CListUI::Add(CControlUI* pControl)
 
 bool CListUI::AddAt(CControlUI* pControl, int iIndex)
 {
-    if (!CVerticalLayoutUI::AddAt(pControl, iIndex)) return false;
-    if (IListItemUI* item = AsListItem(pControl)) item->SetOwner(this);
-    if (m_iCurSel >= iIndex) ++m_iCurSel;
+    if (!CVerticalLayoutUI::AddAt(pControl, iIndex))
+        return false;
+    if (IListItemUI* item = AsListItem(pControl))
+        item->SetOwner(this);
+    if (m_iCurSel >= iIndex)
+        ++m_iCurSel;
     ReindexFrom(iIndex);
     return true;
 }
@@ -51,7 +59,8 @@ bool CListUI::Remove(CControlUI* pControl, bool bDoNotDestroy)
 
 bool CListUI::RemoveAt(int iIndex, bool bDoNotDestroy)
 {
-    if (!CVerticalLayoutUI::RemoveAt(iIndex, bDoNotDestroy)) return false;
+    if (!CVerticalLayoutUI::RemoveAt(iIndex, bDoNotDestroy))
+        return false;
     if (iIndex == m_iCurSel) {
         m_iCurSel = -1;
     } else if (iIndex < m_iCurSel) {
@@ -70,40 +79,55 @@ void CListUI::RemoveAll()
 void CListUI::ReindexFrom(int iIndex)
 {
     for (int i = iIndex; i < GetCount(); ++i) {
-        if (IListItemUI* item = AsListItem(GetItemAt(i))) item->SetIndex(i);
+        if (IListItemUI* item = AsListItem(GetItemAt(i)))
+            item->SetIndex(i);
     }
 }
 
-TListInfoUI* CListUI::GetListInfo() { return &m_ListInfo; }
+TListInfoUI* CListUI::GetListInfo()
+{
+    return &m_ListInfo;
+}
 
-int CListUI::GetCurSel() const { return m_iCurSel; }
+int CListUI::GetCurSel() const
+{
+    return m_iCurSel;
+}
 
 bool CListUI::SelectItem(int iIndex, bool bTakeFocus, bool bTriggerEvent)
 {
-    if (iIndex == m_iCurSel) return true;
+    if (iIndex == m_iCurSel)
+        return true;
     const int old = m_iCurSel;
     if (m_iCurSel >= 0) {
-        if (IListItemUI* item = AsListItem(GetItemAt(m_iCurSel))) item->Select(false);
+        if (IListItemUI* item = AsListItem(GetItemAt(m_iCurSel)))
+            item->Select(false);
         m_iCurSel = -1;
     }
-    if (iIndex < 0) return false;
+    if (iIndex < 0)
+        return false;
     CControlUI* control = GetItemAt(iIndex);
     IListItemUI* item = AsListItem(control);
-    if (control == nullptr || item == nullptr || !control->IsVisible() || !control->IsEnabled()) return false;
+    if (control == nullptr || item == nullptr || !control->IsVisible() || !control->IsEnabled())
+        return false;
     m_iCurSel = iIndex;
     item->Select(true, false);
     EnsureVisible(iIndex);
-    if (bTakeFocus) control->SetFocus();
+    if (bTakeFocus)
+        control->SetFocus();
     if (bTriggerEvent && m_pManager != nullptr) {
-        m_pManager->SendNotify(this, DUI_MSGTYPE_ITEMSELECT, static_cast<WPARAM>(m_iCurSel), static_cast<LPARAM>(old));
+        m_pManager->SendNotify(this, DUI_MSGTYPE_ITEMSELECT, static_cast<WPARAM>(m_iCurSel),
+                               static_cast<LPARAM>(old));
     }
     return true;
 }
 
 bool CListUI::UnSelectItem(int iIndex)
 {
-    if (iIndex != m_iCurSel || iIndex < 0) return false;
-    if (IListItemUI* item = AsListItem(GetItemAt(iIndex))) item->Select(false);
+    if (iIndex != m_iCurSel || iIndex < 0)
+        return false;
+    if (IListItemUI* item = AsListItem(GetItemAt(iIndex)))
+        item->Select(false);
     m_iCurSel = -1;
     return true;
 }
@@ -112,7 +136,8 @@ void CListUI::UnSelectAllItems()
 {
     for (int i = 0; i < GetCount(); ++i) {
         if (IListItemUI* item = AsListItem(GetItemAt(i))) {
-            if (item->IsSelected()) item->Select(false);
+            if (item->IsSelected())
+                item->Select(false);
         }
     }
     m_iCurSel = -1;
@@ -120,7 +145,8 @@ void CListUI::UnSelectAllItems()
 
 void CListUI::EnsureVisible(int iIndex)
 {
-    if (m_pManager != nullptr) m_pManager->UpdateLayoutIfNeeded();
+    if (m_pManager != nullptr)
+        m_pManager->UpdateLayoutIfNeeded();
     CContainerUI::EnsureVisible(GetItemAt(iIndex));
 }
 
@@ -143,51 +169,78 @@ void CListUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
 {
     using Setter = AttributeSetter<CListUI>;
     static const std::unordered_map<std::wstring, Setter> table = {
-        {L"itembkcolor",
-         [](CListUI& c, const wchar_t* n, const wchar_t* v) { c.m_ListInfo.dwBkColor = attr::ParseColor(n, v); }},
-        {L"itemhotbkcolor",
-         [](CListUI& c, const wchar_t* n, const wchar_t* v) { c.m_ListInfo.dwHotBkColor = attr::ParseColor(n, v); }},
+        {L"itembkcolor", [](CListUI& c, const wchar_t* n,
+                            const wchar_t* v) { c.m_ListInfo.dwBkColor = attr::ParseColor(n, v); }},
+        {L"itemhotbkcolor", [](CListUI& c, const wchar_t* n,
+                               const wchar_t* v) { c.m_ListInfo.dwHotBkColor = attr::ParseColor(n, v); }},
         {L"itemselectedbkcolor",
-         [](CListUI& c, const wchar_t* n, const wchar_t* v) { c.m_ListInfo.dwSelectedBkColor = attr::ParseColor(n, v); }},
+         [](CListUI& c, const wchar_t* n, const wchar_t* v) {
+             c.m_ListInfo.dwSelectedBkColor = attr::ParseColor(n, v);
+         }},
         {L"itemdisabledbkcolor",
-         [](CListUI& c, const wchar_t* n, const wchar_t* v) { c.m_ListInfo.dwDisabledBkColor = attr::ParseColor(n, v); }},
-        {L"itemlinecolor",
-         [](CListUI& c, const wchar_t* n, const wchar_t* v) { c.m_ListInfo.dwLineColor = attr::ParseColor(n, v); }},
+         [](CListUI& c, const wchar_t* n, const wchar_t* v) {
+             c.m_ListInfo.dwDisabledBkColor = attr::ParseColor(n, v);
+         }},
+        {L"itemlinecolor", [](CListUI& c, const wchar_t* n,
+                              const wchar_t* v) { c.m_ListInfo.dwLineColor = attr::ParseColor(n, v); }},
     };
-    if (ApplyFromTable(table, *this, pstrName, pstrValue)) return;
+    if (ApplyFromTable(table, *this, pstrName, pstrValue))
+        return;
     CVerticalLayoutUI::SetAttribute(pstrName, pstrValue);
 }
 
 CListContainerElementUI::CListContainerElementUI() = default;
 
-LPCTSTR CListContainerElementUI::GetClass() const { return L"ListContainerElementUI"; }
+LPCTSTR CListContainerElementUI::GetClass() const
+{
+    return L"ListContainerElementUI";
+}
 
 LPVOID CListContainerElementUI::GetInterface(LPCTSTR pstrName)
 {
-    if (CompareNoCase(pstrName, DUI_CTR_LISTITEM) == 0) return static_cast<IListItemUI*>(this);
-    if (CompareNoCase(pstrName, DUI_CTR_LISTCONTAINERELEMENT) == 0) return static_cast<CListContainerElementUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_LISTITEM) == 0)
+        return static_cast<IListItemUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_LISTCONTAINERELEMENT) == 0)
+        return static_cast<CListContainerElementUI*>(this);
     return CHorizontalLayoutUI::GetInterface(pstrName);
 }
 
-UINT CListContainerElementUI::GetControlFlags() const { return 0; }
+UINT CListContainerElementUI::GetControlFlags() const
+{
+    return 0;
+}
 
-int CListContainerElementUI::GetIndex() const { return m_iIndex; }
+int CListContainerElementUI::GetIndex() const
+{
+    return m_iIndex;
+}
 
-void CListContainerElementUI::SetIndex(int iIndex) { m_iIndex = iIndex; }
+void CListContainerElementUI::SetIndex(int iIndex)
+{
+    m_iIndex = iIndex;
+}
 
-IListOwnerUI* CListContainerElementUI::GetOwner() { return m_pOwner; }
+IListOwnerUI* CListContainerElementUI::GetOwner()
+{
+    return m_pOwner;
+}
 
 void CListContainerElementUI::SetOwner(CControlUI* pOwner)
 {
     m_pOwner = pOwner ? static_cast<IListOwnerUI*>(pOwner->GetInterface(DUI_CTR_ILISTOWNER)) : nullptr;
 }
 
-bool CListContainerElementUI::IsSelected() const { return m_bSelected; }
+bool CListContainerElementUI::IsSelected() const
+{
+    return m_bSelected;
+}
 
 bool CListContainerElementUI::Select(bool bSelect, bool bTriggerEvent)
 {
-    if (!IsEnabled() && bSelect) return false;
-    if (m_bSelected == bSelect) return true;
+    if (!IsEnabled() && bSelect)
+        return false;
+    if (m_bSelected == bSelect)
+        return true;
     m_bSelected = bSelect;
     if (bSelect && m_pOwner != nullptr && m_pOwner->GetCurSel() != m_iIndex) {
         m_pOwner->SelectItem(m_iIndex, false, bTriggerEvent);
@@ -198,8 +251,10 @@ bool CListContainerElementUI::Select(bool bSelect, bool bTriggerEvent)
 
 bool CListContainerElementUI::Activate()
 {
-    if (!CControlUI::Activate()) return false;
-    if (m_pManager != nullptr) m_pManager->SendNotify(this, DUI_MSGTYPE_ITEMCLICK);
+    if (!CControlUI::Activate())
+        return false;
+    if (m_pManager != nullptr)
+        m_pManager->SendNotify(this, DUI_MSGTYPE_ITEMCLICK);
     return true;
 }
 
@@ -244,7 +299,8 @@ void CListContainerElementUI::DoEvent(TEventUI& event)
 void CListContainerElementUI::PaintBkColor(RenderContext& ctx)
 {
     CHorizontalLayoutUI::PaintBkColor(ctx);
-    if (m_pOwner == nullptr) return;
+    if (m_pOwner == nullptr)
+        return;
     const TListInfoUI* info = m_pOwner->GetListInfo();
     DWORD overlay = info->dwBkColor;
     if (!IsEnabled() && info->dwDisabledBkColor != 0) {
@@ -254,10 +310,12 @@ void CListContainerElementUI::PaintBkColor(RenderContext& ctx)
     } else if (m_bHot && info->dwHotBkColor != 0) {
         overlay = info->dwHotBkColor;
     }
-    if (m_dwBackColor == 0 || overlay != info->dwBkColor) ctx.FillRect(m_rcItem, overlay);
+    if (m_dwBackColor == 0 || overlay != info->dwBkColor)
+        ctx.FillRect(m_rcItem, overlay);
     if (info->dwLineColor != 0) {
-        ctx.FillRect(RECT{m_rcItem.left, m_rcItem.bottom - 1, m_rcItem.right, m_rcItem.bottom}, info->dwLineColor);
+        ctx.FillRect(RECT{m_rcItem.left, m_rcItem.bottom - 1, m_rcItem.right, m_rcItem.bottom},
+                     info->dwLineColor);
     }
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

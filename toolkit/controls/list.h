@@ -15,7 +15,8 @@ namespace DuiLib {
 class IListItemUI;
 
 // Colours the owner gives its rows; 0 paints nothing.
-struct TListInfoUI {
+struct TListInfoUI
+{
     DWORD dwBkColor = 0;
     DWORD dwHotBkColor = 0;
     DWORD dwSelectedBkColor = 0;
@@ -23,7 +24,8 @@ struct TListInfoUI {
     DWORD dwLineColor = 0;
 };
 
-class IListOwnerUI {
+class IListOwnerUI
+{
 public:
     virtual ~IListOwnerUI() = default;
     virtual TListInfoUI* GetListInfo() = 0;
@@ -35,7 +37,8 @@ public:
     virtual void DoEvent(TEventUI& event) = 0;
 };
 
-class IListItemUI {
+class IListItemUI
+{
 public:
     virtual ~IListItemUI() = default;
     virtual int GetIndex() const = 0;
@@ -48,7 +51,8 @@ public:
     virtual bool Select(bool bSelect = true, bool bTriggerEvent = true) = 0;
 };
 
-class CListUI : public CVerticalLayoutUI, public IListOwnerUI {
+class CListUI : public CVerticalLayoutUI, public IListOwnerUI
+{
 public:
     CListUI();
     LPCTSTR GetClass() const override;
@@ -76,7 +80,8 @@ protected:
     TListInfoUI m_ListInfo;
 };
 
-class CListContainerElementUI : public CHorizontalLayoutUI, public IListItemUI {
+class CListContainerElementUI : public CHorizontalLayoutUI, public IListItemUI
+{
 public:
     CListContainerElementUI();
     LPCTSTR GetClass() const override;
@@ -102,4 +107,4 @@ protected:
     IListOwnerUI* m_pOwner = nullptr;
 };
 
-}  // namespace DuiLib
+} // namespace DuiLib

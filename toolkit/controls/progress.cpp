@@ -10,38 +10,46 @@ CProgressUI::CProgressUI()
     m_uTextStyle = DT_SINGLELINE | DT_VCENTER | DT_CENTER;
 }
 
-LPCTSTR CProgressUI::GetClass() const { return L"ProgressUI"; }
+LPCTSTR CProgressUI::GetClass() const
+{
+    return L"ProgressUI";
+}
 
 LPVOID CProgressUI::GetInterface(LPCTSTR pstrName)
 {
-    if (CompareNoCase(pstrName, DUI_CTR_PROGRESS) == 0) return static_cast<CProgressUI*>(this);
+    if (CompareNoCase(pstrName, DUI_CTR_PROGRESS) == 0)
+        return static_cast<CProgressUI*>(this);
     return CLabelUI::GetInterface(pstrName);
 }
 
 void CProgressUI::SetMinValue(int nMin)
 {
-    if (m_nMin == nMin) return;
+    if (m_nMin == nMin)
+        return;
     m_nMin = nMin;
     Invalidate();
 }
 
 void CProgressUI::SetMaxValue(int nMax)
 {
-    if (m_nMax == nMax) return;
+    if (m_nMax == nMax)
+        return;
     m_nMax = nMax;
     Invalidate();
 }
 
 void CProgressUI::SetValue(int nValue)
 {
-    if (m_nValue == nValue) return;
+    if (m_nValue == nValue)
+        return;
     m_nValue = nValue;
     Invalidate();
 }
 
 void CProgressUI::SetRoundRectDirection(int direction)
 {
-    if (m_iRoundDirection == direction) return;
+    if (m_iRoundDirection == direction)
+        return;
     m_iRoundDirection = direction;
     Invalidate();
 }
@@ -54,7 +62,8 @@ void CProgressUI::SetForeImage(LPCTSTR image)
 
 int CProgressUI::GetFilledWidth() const
 {
-    if (m_nMax <= m_nMin) return 0;
+    if (m_nMax <= m_nMin)
+        return 0;
     const long long value = std::max(m_nMin, std::min(m_nValue, m_nMax)) - m_nMin;
     return static_cast<int>(value * (m_rcItem.right - m_rcItem.left) / (m_nMax - m_nMin));
 }
@@ -63,12 +72,14 @@ namespace {
 
 RoundCorners ToCorners(int direction)
 {
-    if (direction == 1) return RoundCorners::Left;
-    if (direction == 2) return RoundCorners::Right;
+    if (direction == 1)
+        return RoundCorners::Left;
+    if (direction == 2)
+        return RoundCorners::Right;
     return RoundCorners::All;
 }
 
-}  // namespace
+} // namespace
 
 RoundCorners CProgressUI::GetRoundCorners() const
 {
@@ -83,7 +94,8 @@ void CProgressUI::PaintBkColor(RenderContext& ctx)
 void CProgressUI::PaintStatusImage(RenderContext& ctx)
 {
     const int filled = GetFilledWidth();
-    if (filled <= 0) return;
+    if (filled <= 0)
+        return;
     RECT bar = m_rcItem;
     bar.right = bar.left + filled;
     if (!m_sForeImage.IsEmpty()) {
@@ -99,18 +111,24 @@ void CProgressUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
 {
     using Setter = AttributeSetter<CProgressUI>;
     static const std::unordered_map<std::wstring, Setter> table = {
-        {L"min", [](CProgressUI& c, const wchar_t* n, const wchar_t* v) { c.SetMinValue(attr::ParseInt(n, v)); }},
-        {L"max", [](CProgressUI& c, const wchar_t* n, const wchar_t* v) { c.SetMaxValue(attr::ParseInt(n, v)); }},
-        {L"value", [](CProgressUI& c, const wchar_t* n, const wchar_t* v) { c.SetValue(attr::ParseInt(n, v)); }},
-        {L"rounddirection",
-         [](CProgressUI& c, const wchar_t* n, const wchar_t* v) { c.SetRoundRectDirection(attr::ParseInt(n, v)); }},
+        {L"min",
+         [](CProgressUI& c, const wchar_t* n, const wchar_t* v) { c.SetMinValue(attr::ParseInt(n, v)); }},
+        {L"max",
+         [](CProgressUI& c, const wchar_t* n, const wchar_t* v) { c.SetMaxValue(attr::ParseInt(n, v)); }},
+        {L"value",
+         [](CProgressUI& c, const wchar_t* n, const wchar_t* v) { c.SetValue(attr::ParseInt(n, v)); }},
+        {L"rounddirection", [](CProgressUI& c, const wchar_t* n,
+                               const wchar_t* v) { c.SetRoundRectDirection(attr::ParseInt(n, v)); }},
         {L"foreimage", [](CProgressUI& c, const wchar_t*, const wchar_t* v) { c.SetForeImage(v); }},
-        {L"hor", [](CProgressUI&, const wchar_t* n, const wchar_t* v) {
-             if (!attr::ParseBool(n, v)) throw AttributeError(AttributeError::Kind::BadValue, n, v);
+        {L"hor",
+         [](CProgressUI&, const wchar_t* n, const wchar_t* v) {
+             if (!attr::ParseBool(n, v))
+                 throw AttributeError(AttributeError::Kind::BadValue, n, v);
          }},
     };
-    if (ApplyFromTable(table, *this, pstrName, pstrValue)) return;
+    if (ApplyFromTable(table, *this, pstrName, pstrValue))
+        return;
     CLabelUI::SetAttribute(pstrName, pstrValue);
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

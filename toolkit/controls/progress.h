@@ -8,7 +8,8 @@
 
 namespace DuiLib {
 
-class CProgressUI : public CLabelUI {
+class CProgressUI : public CLabelUI
+{
 public:
     CProgressUI();
     LPCTSTR GetClass() const override;
@@ -41,4 +42,4 @@ private:
     CDuiString m_sForeImage;
 };
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -7,12 +7,10 @@
 namespace DuiLib {
 
 AttributeError::AttributeError(Kind kind, std::wstring name, std::wstring value)
-    : std::runtime_error(kind == Kind::UnknownAttribute
-                             ? "unknown attribute '" + attr::Narrow(name) + "'"
-                             : "bad value '" + attr::Narrow(value) + "' for attribute '" + attr::Narrow(name) + "'"),
-      m_kind(kind),
-      m_name(std::move(name)),
-      m_value(std::move(value))
+    : std::runtime_error(kind == Kind::UnknownAttribute ? "unknown attribute '" + attr::Narrow(name) + "'"
+                                                        : "bad value '" + attr::Narrow(value) +
+                                                              "' for attribute '" + attr::Narrow(name) + "'"),
+      m_kind(kind), m_name(std::move(name)), m_value(std::move(value))
 {
 }
 
@@ -34,15 +32,18 @@ std::wstring Trim(const std::wstring& text)
 {
     std::size_t begin = 0;
     std::size_t end = text.size();
-    while (begin < end && std::iswspace(static_cast<wint_t>(text[begin]))) ++begin;
-    while (end > begin && std::iswspace(static_cast<wint_t>(text[end - 1]))) --end;
+    while (begin < end && std::iswspace(static_cast<wint_t>(text[begin])))
+        ++begin;
+    while (end > begin && std::iswspace(static_cast<wint_t>(text[end - 1])))
+        --end;
     return text.substr(begin, end - begin);
 }
 
 bool ReadLong(const std::wstring& text, long& out)
 {
     const std::wstring trimmed = Trim(text);
-    if (trimmed.empty()) return false;
+    if (trimmed.empty())
+        return false;
     wchar_t* end = nullptr;
     out = std::wcstol(trimmed.c_str(), &end, 10);
     return end != nullptr && *end == 0;
@@ -56,18 +57,20 @@ std::vector<long> ReadNumbers(const wchar_t* name, const wchar_t* value, std::si
     for (std::size_t i = 0; i <= text.size(); ++i) {
         if (i == text.size() || text[i] == L',') {
             long number = 0;
-            if (!ReadLong(part, number)) Bad(name, value);
+            if (!ReadLong(part, number))
+                Bad(name, value);
             numbers.push_back(number);
             part.clear();
         } else {
             part += text[i];
         }
     }
-    if (numbers.size() != count) Bad(name, value);
+    if (numbers.size() != count)
+        Bad(name, value);
     return numbers;
 }
 
-}  // namespace
+} // namespace
 
 DWORD ParseColor(const wchar_t* name, const wchar_t* value)
 {
@@ -79,27 +82,33 @@ DWORD ParseColor(const wchar_t* name, const wchar_t* value)
     } else {
         Bad(name, value);
     }
-    if (text.size() != 6 && text.size() != 8) Bad(name, value);
+    if (text.size() != 6 && text.size() != 8)
+        Bad(name, value);
     for (wchar_t ch : text) {
-        if (!std::iswxdigit(static_cast<wint_t>(ch))) Bad(name, value);
+        if (!std::iswxdigit(static_cast<wint_t>(ch)))
+            Bad(name, value);
     }
     DWORD color = static_cast<DWORD>(std::wcstoul(text.c_str(), nullptr, 16));
-    if (text.size() == 6) color |= 0xFF000000u;
+    if (text.size() == 6)
+        color |= 0xFF000000u;
     return color;
 }
 
 int ParseInt(const wchar_t* name, const wchar_t* value)
 {
     long number = 0;
-    if (!ReadLong(value ? value : L"", number)) Bad(name, value);
+    if (!ReadLong(value ? value : L"", number))
+        Bad(name, value);
     return static_cast<int>(number);
 }
 
 bool ParseBool(const wchar_t* name, const wchar_t* value)
 {
     const std::wstring text = Trim(value ? value : L"");
-    if (text == L"true") return true;
-    if (text == L"false") return false;
+    if (text == L"true")
+        return true;
+    if (text == L"false")
+        return false;
     Bad(name, value);
 }
 
@@ -190,5 +199,5 @@ std::wstring Widen(const std::string& utf8)
     return out;
 }
 
-}  // namespace attr
-}  // namespace DuiLib
+} // namespace attr
+} // namespace DuiLib

@@ -14,9 +14,14 @@
 
 namespace DuiLib {
 
-class AttributeError : public std::runtime_error {
+class AttributeError : public std::runtime_error
+{
 public:
-    enum class Kind { UnknownAttribute, BadValue };
+    enum class Kind
+    {
+        UnknownAttribute,
+        BadValue
+    };
     AttributeError(Kind kind, std::wstring name, std::wstring value);
     Kind kind() const { return m_kind; }
     const std::wstring& name() const { return m_name; }
@@ -30,7 +35,8 @@ private:
 
 // What went wrong while building a skin: file (or "<string>"), 1-based line,
 // the element or attribute name concerned and a one-line description.
-struct SkinError {
+struct SkinError
+{
     std::string file;
     int line = 0;
     std::wstring name;
@@ -55,36 +61,43 @@ RECT ParseRect(const wchar_t* name, const wchar_t* value);
 
 // Reads an attribute list of the form  a="1" b='x y'  (used by <Default>).
 // Returns false for malformed text.
-template <typename Fn>
-bool ForEachInList(const wchar_t* list, Fn&& fn);
+template <typename Fn> bool ForEachInList(const wchar_t* list, Fn&& fn);
 
 std::string Narrow(const std::wstring& text);
 std::wstring Widen(const std::string& utf8);
 
-}  // namespace attr
+} // namespace attr
 
-template <typename Fn>
-bool attr::ForEachInList(const wchar_t* list, Fn&& fn)
+template <typename Fn> bool attr::ForEachInList(const wchar_t* list, Fn&& fn)
 {
     const wchar_t* p = list;
     while (p != nullptr && *p != 0) {
-        while (*p == L' ' || *p == L'\t' || *p == L'\n' || *p == L'\r') ++p;
-        if (*p == 0) break;
+        while (*p == L' ' || *p == L'\t' || *p == L'\n' || *p == L'\r')
+            ++p;
+        if (*p == 0)
+            break;
         std::wstring key;
-        while (*p != 0 && *p != L'=' && *p != L' ') key += *p++;
-        while (*p == L' ') ++p;
-        if (*p++ != L'=') return false;
-        while (*p == L' ') ++p;
+        while (*p != 0 && *p != L'=' && *p != L' ')
+            key += *p++;
+        while (*p == L' ')
+            ++p;
+        if (*p++ != L'=')
+            return false;
+        while (*p == L' ')
+            ++p;
         const wchar_t quote = *p;
-        if (quote != L'"' && quote != L'\'') return false;
+        if (quote != L'"' && quote != L'\'')
+            return false;
         ++p;
         std::wstring value;
-        while (*p != 0 && *p != quote) value += *p++;
-        if (*p != quote) return false;
+        while (*p != 0 && *p != quote)
+            value += *p++;
+        if (*p != quote)
+            return false;
         ++p;
         fn(key, value);
     }
     return true;
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

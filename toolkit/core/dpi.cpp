@@ -9,7 +9,7 @@ namespace {
 
 std::atomic<int> g_processDpi{96};
 
-}  // namespace
+} // namespace
 
 CDPI::CDPI() : m_dpi(GetProcessDPI()) {}
 
@@ -38,4 +38,4 @@ int CDPI::GetProcessDPI()
     return g_processDpi.load();
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -6,7 +6,8 @@
 
 namespace DuiLib {
 
-class CDPI {
+class CDPI
+{
 public:
     CDPI();
     // 96 is 100 %, 144 is 150 %, 192 is 200 %.
@@ -26,4 +27,4 @@ private:
     int m_dpi;
 };
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -17,18 +17,21 @@ std::wstring ToPortableFormat(const wchar_t* format)
     std::wstring out;
     for (const wchar_t* p = format; *p != 0; ++p) {
         out += *p;
-        if (*p != L'%') continue;
+        if (*p != L'%')
+            continue;
         if (p[1] == L'%') {
             out += *++p;
             continue;
         }
         bool hasLength = false;
         while (p[1] != 0 && std::wcschr(L"-+ #0123456789.*hlLqjzt", p[1]) != nullptr) {
-            if (std::wcschr(L"hlLqjzt", p[1]) != nullptr) hasLength = true;
+            if (std::wcschr(L"hlLqjzt", p[1]) != nullptr)
+                hasLength = true;
             out += *++p;
         }
         const wchar_t conversion = p[1];
-        if (conversion == 0) break;
+        if (conversion == 0)
+            break;
         ++p;
         if (!hasLength && (conversion == L's' || conversion == L'c')) {
             out += L'l';
@@ -45,7 +48,8 @@ std::wstring ToPortableFormat(const wchar_t* format)
 int FormatInto(std::wstring& out, const wchar_t* rawFormat, va_list args)
 {
     out.clear();
-    if (rawFormat == nullptr) return 0;
+    if (rawFormat == nullptr)
+        return 0;
     const std::wstring portable = ToPortableFormat(rawFormat);
     const wchar_t* format = portable.c_str();
     // vswprintf reports truncation only by failing, so grow until it fits.
@@ -60,22 +64,27 @@ int FormatInto(std::wstring& out, const wchar_t* rawFormat, va_list args)
             return written;
         }
         buffer.resize(buffer.size() * 4);
-        if (buffer.size() > (1u << 24)) break;
+        if (buffer.size() > (1u << 24))
+            break;
     }
     return -1;
 }
 
-}  // namespace
+} // namespace
 
 int CompareNoCase(const wchar_t* a, const wchar_t* b)
 {
-    if (a == nullptr) a = L"";
-    if (b == nullptr) b = L"";
+    if (a == nullptr)
+        a = L"";
+    if (b == nullptr)
+        b = L"";
     for (;; ++a, ++b) {
         const wint_t ca = std::towlower(static_cast<wint_t>(*a));
         const wint_t cb = std::towlower(static_cast<wint_t>(*b));
-        if (ca != cb) return ca < cb ? -1 : 1;
-        if (ca == 0) return 0;
+        if (ca != cb)
+            return ca < cb ? -1 : 1;
+        if (ca == 0)
+            return 0;
     }
 }
 
@@ -102,32 +111,39 @@ int CDuiString::CompareNoCase(const wchar_t* other) const
 
 void CDuiString::MakeUpper()
 {
-    for (auto& ch : m_text) ch = static_cast<wchar_t>(std::towupper(static_cast<wint_t>(ch)));
+    for (auto& ch : m_text)
+        ch = static_cast<wchar_t>(std::towupper(static_cast<wint_t>(ch)));
 }
 
 void CDuiString::MakeLower()
 {
-    for (auto& ch : m_text) ch = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(ch)));
+    for (auto& ch : m_text)
+        ch = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(ch)));
 }
 
 CDuiString CDuiString::Left(int length) const
 {
-    if (length < 0) length = 0;
+    if (length < 0)
+        length = 0;
     return CDuiString(m_text.substr(0, static_cast<std::size_t>(length)));
 }
 
 CDuiString CDuiString::Mid(int pos, int length) const
 {
-    if (pos < 0) pos = 0;
-    if (static_cast<std::size_t>(pos) >= m_text.size()) return CDuiString();
+    if (pos < 0)
+        pos = 0;
+    if (static_cast<std::size_t>(pos) >= m_text.size())
+        return CDuiString();
     return CDuiString(m_text.substr(static_cast<std::size_t>(pos),
                                     length < 0 ? std::wstring::npos : static_cast<std::size_t>(length)));
 }
 
 CDuiString CDuiString::Right(int length) const
 {
-    if (length <= 0) return CDuiString();
-    if (static_cast<std::size_t>(length) >= m_text.size()) return *this;
+    if (length <= 0)
+        return CDuiString();
+    if (static_cast<std::size_t>(length) >= m_text.size())
+        return *this;
     return CDuiString(m_text.substr(m_text.size() - static_cast<std::size_t>(length)));
 }
 
@@ -147,7 +163,8 @@ int CDuiString::Replace(const wchar_t* from, const wchar_t* to)
 {
     const std::wstring needle = from ? from : L"";
     const std::wstring replacement = to ? to : L"";
-    if (needle.empty()) return 0;
+    if (needle.empty())
+        return 0;
     int count = 0;
     std::size_t pos = 0;
     while ((pos = m_text.find(needle, pos)) != std::wstring::npos) {
@@ -176,4 +193,4 @@ int CDuiString::SmallFormat(const wchar_t* format, ...)
     return length;
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

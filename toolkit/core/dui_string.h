@@ -16,20 +16,24 @@ namespace DuiLib {
 using ::LPCTSTR;
 using ::LPTSTR;
 
-class CDuiString {
+class CDuiString
+{
 public:
     CDuiString() = default;
-    CDuiString(const wchar_t* text) : m_text(text ? text : L"") {}  // NOLINT: implicit like DuiLib
-    CDuiString(const wchar_t* text, int length) : m_text(text ? std::wstring(text, static_cast<std::size_t>(length)) : L"") {}
-    CDuiString(const std::wstring& text) : m_text(text) {}  // NOLINT
-    CDuiString(std::wstring&& text) : m_text(std::move(text)) {}  // NOLINT
-    CDuiString(wchar_t ch) : m_text(1, ch) {}  // NOLINT
+    CDuiString(const wchar_t* text) : m_text(text ? text : L"") {} // NOLINT: implicit like DuiLib
+    CDuiString(const wchar_t* text, int length)
+        : m_text(text ? std::wstring(text, static_cast<std::size_t>(length)) : L"")
+    {
+    }
+    CDuiString(const std::wstring& text) : m_text(text) {}       // NOLINT
+    CDuiString(std::wstring&& text) : m_text(std::move(text)) {} // NOLINT
+    CDuiString(wchar_t ch) : m_text(1, ch) {}                    // NOLINT
 
     bool IsEmpty() const { return m_text.empty(); }
     int GetLength() const { return static_cast<int>(m_text.size()); }
     void Empty() { m_text.clear(); }
     const wchar_t* GetData() const { return m_text.c_str(); }
-    operator const wchar_t*() const { return m_text.c_str(); }  // NOLINT
+    operator const wchar_t*() const { return m_text.c_str(); } // NOLINT
     const std::wstring& str() const { return m_text; }
     wchar_t GetAt(int index) const { return m_text[static_cast<std::size_t>(index)]; }
     wchar_t operator[](int index) const { return GetAt(index); }
@@ -37,14 +41,39 @@ public:
     void Assign(const wchar_t* text, int length = -1);
     void Append(const wchar_t* text) { m_text += text ? text : L""; }
 
-    CDuiString& operator=(const wchar_t* text) { m_text = text ? text : L""; return *this; }
-    CDuiString& operator+=(const wchar_t* text) { Append(text); return *this; }
-    CDuiString& operator+=(const CDuiString& other) { m_text += other.m_text; return *this; }
-    CDuiString& operator+=(wchar_t ch) { m_text += ch; return *this; }
+    CDuiString& operator=(const wchar_t* text)
+    {
+        m_text = text ? text : L"";
+        return *this;
+    }
+    CDuiString& operator+=(const wchar_t* text)
+    {
+        Append(text);
+        return *this;
+    }
+    CDuiString& operator+=(const CDuiString& other)
+    {
+        m_text += other.m_text;
+        return *this;
+    }
+    CDuiString& operator+=(wchar_t ch)
+    {
+        m_text += ch;
+        return *this;
+    }
 
-    friend CDuiString operator+(const CDuiString& a, const CDuiString& b) { return CDuiString(a.m_text + b.m_text); }
-    friend CDuiString operator+(const CDuiString& a, const wchar_t* b) { return CDuiString(a.m_text + (b ? b : L"")); }
-    friend CDuiString operator+(const wchar_t* a, const CDuiString& b) { return CDuiString((a ? a : L"") + b.m_text); }
+    friend CDuiString operator+(const CDuiString& a, const CDuiString& b)
+    {
+        return CDuiString(a.m_text + b.m_text);
+    }
+    friend CDuiString operator+(const CDuiString& a, const wchar_t* b)
+    {
+        return CDuiString(a.m_text + (b ? b : L""));
+    }
+    friend CDuiString operator+(const wchar_t* a, const CDuiString& b)
+    {
+        return CDuiString((a ? a : L"") + b.m_text);
+    }
 
     bool operator==(const wchar_t* other) const { return Compare(other) == 0; }
     bool operator!=(const wchar_t* other) const { return Compare(other) != 0; }
@@ -76,4 +105,4 @@ private:
 // Case-insensitive comparison of two wide strings (null counts as empty).
 int CompareNoCase(const wchar_t* a, const wchar_t* b);
 
-}  // namespace DuiLib
+} // namespace DuiLib

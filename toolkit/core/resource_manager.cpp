@@ -19,19 +19,22 @@ std::map<std::wstring, std::wstring> ReadLanguageFile(const std::string& path)
 {
     std::map<std::wstring, std::wstring> table;
     std::ifstream in(path, std::ios::binary);
-    if (!in) return table;
+    if (!in)
+        return table;
     Json::CharReaderBuilder builder;
     Json::Value root;
     std::string errors;
-    if (!Json::parseFromStream(builder, in, &root, &errors) || !root.isObject()) return table;
+    if (!Json::parseFromStream(builder, in, &root, &errors) || !root.isObject())
+        return table;
     for (const auto& key : root.getMemberNames()) {
         const Json::Value& value = root[key];
-        if (value.isString()) table[attr::Widen(key)] = attr::Widen(value.asString());
+        if (value.isString())
+            table[attr::Widen(key)] = attr::Widen(value.asString());
     }
     return table;
 }
 
-}  // namespace
+} // namespace
 
 CResourceManager* CResourceManager::GetInstance()
 {
@@ -72,17 +75,20 @@ LPCTSTR CResourceManager::GetText(LPCTSTR key)
     std::lock_guard<std::mutex> lock(m_mutex);
     const Table& current = TableFor(m_language);
     auto hit = current.find(wanted);
-    if (hit != current.end()) return hit->second.c_str();
+    if (hit != current.end())
+        return hit->second.c_str();
     const Table& fallback = TableFor(kFallbackLanguage);
     hit = fallback.find(wanted);
-    if (hit != fallback.end()) return hit->second.c_str();
+    if (hit != fallback.end())
+        return hit->second.c_str();
     return m_missing.insert(wanted).first->c_str();
 }
 
 void CResourceManager::ReloadText()
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    for (auto& entry : m_tables) m_retired.push_back(entry.second);
+    for (auto& entry : m_tables)
+        m_retired.push_back(entry.second);
     m_tables.clear();
 }
 
@@ -104,4 +110,4 @@ int CResourceManagerEx::RestoreScale(int value)
     return dpi.ScaleBack(value);
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -15,7 +15,8 @@
 
 namespace DuiLib {
 
-class CResourceManager {
+class CResourceManager
+{
 public:
     static CResourceManager* GetInstance();
 
@@ -44,7 +45,8 @@ private:
 
 // Scaling helpers between logical units and device pixels at the process
 // DPI (see CDPI).
-class CResourceManagerEx {
+class CResourceManagerEx
+{
 public:
     static CResourceManagerEx* GetInstance();
     // Logical to device pixels.
@@ -53,4 +55,4 @@ public:
     static int RestoreScale(int value);
 };
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -12,7 +12,6 @@
 #include "platform/win32.h"
 #include "toolkit/core/dui_string.h"
 
-
 namespace DuiLib {
 
 using LPVOID = void*;
@@ -49,9 +48,10 @@ class CControlUI;
 #define DUI_CTR_LISTCONTAINERELEMENT L"ListContainerElement"
 
 // One notification from a control to the window's notifiers.
-struct TNotifyUI {
+struct TNotifyUI
+{
     CDuiString sType;
-    CDuiString sVirtualWnd;  // the `virtualwnd` of the sender or its nearest ancestor
+    CDuiString sVirtualWnd; // the `virtualwnd` of the sender or its nearest ancestor
     CControlUI* pSender = nullptr;
     DWORD dwTimestamp = 0;
     POINT ptMouse{0, 0};
@@ -59,7 +59,8 @@ struct TNotifyUI {
     LPARAM lParam = 0;
 };
 
-class INotifyUI {
+class INotifyUI
+{
 public:
     virtual ~INotifyUI() = default;
     virtual void Notify(TNotifyUI& msg) = 0;
@@ -68,21 +69,24 @@ public:
 // A message filter sees every window message before the controls do.
 // Setting bHandled to true stops the message there and `return` becomes its
 // result.
-class IMessageFilterUI {
+class IMessageFilterUI
+{
 public:
     virtual ~IMessageFilterUI() = default;
     virtual LRESULT MessageHandler(UINT uMsg, WPARAM wParam, LPARAM lParam, bool& bHandled) = 0;
 };
 
 // Lets a window supply texts for controls built from a skin.
-class IQueryControlText {
+class IQueryControlText
+{
 public:
     virtual ~IQueryControlText() = default;
     virtual LPCTSTR QueryControlText(LPCTSTR lpstrId, LPCTSTR lpstrType) = 0;
 };
 
 // Input and state events delivered to a control by the paint manager.
-enum EventType {
+enum EventType
+{
     UIEVENT_MOUSEMOVE = 1,
     UIEVENT_MOUSELEAVE,
     UIEVENT_MOUSEENTER,
@@ -95,7 +99,8 @@ enum EventType {
     UIEVENT_TIMER,
 };
 
-struct TEventUI {
+struct TEventUI
+{
     int Type = 0;
     CControlUI* pSender = nullptr;
     DWORD dwTimestamp = 0;
@@ -107,7 +112,8 @@ struct TEventUI {
 };
 
 // Control state bits used while painting buttons and list items.
-enum : UINT {
+enum : UINT
+{
     UISTATE_FOCUSED = 0x01,
     UISTATE_SELECTED = 0x02,
     UISTATE_DISABLED = 0x04,
@@ -117,7 +123,8 @@ enum : UINT {
 };
 
 // Flags for CControlUI::FindControl.
-enum : UINT {
+enum : UINT
+{
     UIFIND_ALL = 0x00000000,
     UIFIND_VISIBLE = 0x00000001,
     UIFIND_ENABLED = 0x00000002,
@@ -128,4 +135,4 @@ enum : UINT {
 
 using FINDCONTROLPROC = CControlUI* (*)(CControlUI*, LPVOID);
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -7,7 +7,8 @@
 
 namespace gallery {
 
-class GalleryWindow : public DuiLib::WindowImplBaseEx {
+class GalleryWindow : public DuiLib::WindowImplBaseEx
+{
 public:
     explicit GalleryWindow(int rows) : m_rows(rows) {}
 
@@ -31,4 +32,4 @@ private:
     bool m_reported = false;
 };
 
-}  // namespace gallery
+} // namespace gallery

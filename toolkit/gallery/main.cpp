@@ -21,7 +21,7 @@ namespace {
 const char kUsage[] =
     "usage: toolkit-gallery [--png FILE] [--tab N] [--lang LANG] [--dpi N] [--rows N] [--root DIR]\n";
 
-}  // namespace
+} // namespace
 
 int main(int argc, char** argv)
 {
@@ -42,12 +42,18 @@ int main(int argc, char** argv)
             return 2;
         }
         const char* value = argv[i + 1];
-        if (key == "--png") png = value;
-        else if (key == "--tab") tab = std::atoi(value);
-        else if (key == "--lang") lang = value;
-        else if (key == "--dpi") dpi = std::atoi(value);
-        else if (key == "--rows") rows = std::atoi(value);
-        else if (key == "--root") root = value;
+        if (key == "--png")
+            png = value;
+        else if (key == "--tab")
+            tab = std::atoi(value);
+        else if (key == "--lang")
+            lang = value;
+        else if (key == "--dpi")
+            dpi = std::atoi(value);
+        else if (key == "--rows")
+            rows = std::atoi(value);
+        else if (key == "--root")
+            root = value;
         else {
             std::fprintf(stderr, "toolkit-gallery: unknown option %s\n%s", key.c_str(), kUsage);
             return 2;
@@ -67,7 +73,8 @@ int main(int argc, char** argv)
     gallery::GalleryWindow window(rows);
     if (window.Create(nullptr, L"Toolkit gallery", 0, 0, 0, 0, 0, 0) == nullptr) {
         std::fprintf(stderr, "toolkit-gallery: %s\n",
-                     window.GetSkinError() ? window.GetSkinError()->ToString().c_str() : "cannot create the window");
+                     window.GetSkinError() ? window.GetSkinError()->ToString().c_str()
+                                           : "cannot create the window");
         return 1;
     }
     window.CenterWindow();

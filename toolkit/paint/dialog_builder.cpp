@@ -20,7 +20,8 @@ namespace DuiLib {
 namespace {
 
 // Thrown inside the parser with the element's offset; caught in Create.
-struct BuildFailure {
+struct BuildFailure
+{
     std::ptrdiff_t offset;
     std::wstring name;
     std::string message;
@@ -33,11 +34,13 @@ std::wstring W(const char* utf8)
 
 int LineOf(const std::string& text, std::ptrdiff_t offset)
 {
-    if (offset < 0) return 0;
+    if (offset < 0)
+        return 0;
     int line = 1;
     const auto end = std::min<std::size_t>(static_cast<std::size_t>(offset), text.size());
     for (std::size_t i = 0; i < end; ++i) {
-        if (text[i] == '\n') ++line;
+        if (text[i] == '\n')
+            ++line;
     }
     return line;
 }
@@ -50,25 +53,37 @@ std::wstring Localised(const std::wstring& value)
     return value;
 }
 
-}  // namespace
+} // namespace
 
 CControlUI* CreateBuiltinControl(const std::wstring& className)
 {
-    if (className == L"Control") return new CControlUI;
-    if (className == L"Container") return new CContainerUI;
-    if (className == L"VerticalLayout") return new CVerticalLayoutUI;
-    if (className == L"HorizontalLayout") return new CHorizontalLayoutUI;
-    if (className == L"TabLayout") return new CTabLayoutUI;
-    if (className == L"Label") return new CLabelUI;
-    if (className == L"Text") return new CTextUI;
-    if (className == L"Button") return new CButtonUI;
-    if (className == L"Progress") return new CProgressUI;
-    if (className == L"List") return new CListUI;
-    if (className == L"ListContainerElement") return new CListContainerElementUI;
+    if (className == L"Control")
+        return new CControlUI;
+    if (className == L"Container")
+        return new CContainerUI;
+    if (className == L"VerticalLayout")
+        return new CVerticalLayoutUI;
+    if (className == L"HorizontalLayout")
+        return new CHorizontalLayoutUI;
+    if (className == L"TabLayout")
+        return new CTabLayoutUI;
+    if (className == L"Label")
+        return new CLabelUI;
+    if (className == L"Text")
+        return new CTextUI;
+    if (className == L"Button")
+        return new CButtonUI;
+    if (className == L"Progress")
+        return new CProgressUI;
+    if (className == L"List")
+        return new CListUI;
+    if (className == L"ListContainerElement")
+        return new CListContainerElementUI;
     return nullptr;
 }
 
-struct CDialogBuilder::Parser {
+struct CDialogBuilder::Parser
+{
     IDialogBuilderCallback* callback;
     CPaintManagerUI* manager;
 
@@ -85,19 +100,24 @@ struct CDialogBuilder::Parser {
             try {
                 if (name == L"size") {
                     const SIZE s = attr::ParseSize(name.c_str(), value.c_str());
-                    if (manager) manager->SetInitSize(s.cx, s.cy);
+                    if (manager)
+                        manager->SetInitSize(s.cx, s.cy);
                 } else if (name == L"caption") {
                     const RECT r = attr::ParseRect(name.c_str(), value.c_str());
-                    if (manager) manager->SetCaptionRect(r);
+                    if (manager)
+                        manager->SetCaptionRect(r);
                 } else if (name == L"roundcorner") {
                     const SIZE s = attr::ParseSize(name.c_str(), value.c_str());
-                    if (manager) manager->SetRoundCorner(s.cx, s.cy);
+                    if (manager)
+                        manager->SetRoundCorner(s.cx, s.cy);
                 } else if (name == L"mininfo") {
                     const SIZE s = attr::ParseSize(name.c_str(), value.c_str());
-                    if (manager) manager->SetMinInfo(s.cx, s.cy);
+                    if (manager)
+                        manager->SetMinInfo(s.cx, s.cy);
                 } else if (name == L"defaultfontcolor") {
                     const DWORD color = attr::ParseColor(name.c_str(), value.c_str());
-                    if (manager) manager->SetDefaultFontColor(color);
+                    if (manager)
+                        manager->SetDefaultFontColor(color);
                 } else if (name == L"sizebox" || name == L"maxinfo") {
                     attr::ParseRect(name.c_str(), value.c_str());
                 } else if (name == L"showshadow" || name == L"bktrans" || name == L"layered") {
@@ -124,29 +144,42 @@ struct CDialogBuilder::Parser {
             const std::wstring name = W(a.name());
             const std::wstring value = W(a.value());
             try {
-                if (name == L"id") id = attr::ParseInt(name.c_str(), value.c_str());
-                else if (name == L"name") family = value;
-                else if (name == L"size") size = attr::ParseInt(name.c_str(), value.c_str());
-                else if (name == L"bold") bold = attr::ParseBool(name.c_str(), value.c_str());
-                else if (name == L"underline") underline = attr::ParseBool(name.c_str(), value.c_str());
-                else if (name == L"italic") italic = attr::ParseBool(name.c_str(), value.c_str());
-                else if (name == L"default") isDefault = attr::ParseBool(name.c_str(), value.c_str());
-                else if (name == L"shared") attr::ParseBool(name.c_str(), value.c_str());
-                else throw AttributeError(AttributeError::Kind::UnknownAttribute, name, value);
+                if (name == L"id")
+                    id = attr::ParseInt(name.c_str(), value.c_str());
+                else if (name == L"name")
+                    family = value;
+                else if (name == L"size")
+                    size = attr::ParseInt(name.c_str(), value.c_str());
+                else if (name == L"bold")
+                    bold = attr::ParseBool(name.c_str(), value.c_str());
+                else if (name == L"underline")
+                    underline = attr::ParseBool(name.c_str(), value.c_str());
+                else if (name == L"italic")
+                    italic = attr::ParseBool(name.c_str(), value.c_str());
+                else if (name == L"default")
+                    isDefault = attr::ParseBool(name.c_str(), value.c_str());
+                else if (name == L"shared")
+                    attr::ParseBool(name.c_str(), value.c_str());
+                else
+                    throw AttributeError(AttributeError::Kind::UnknownAttribute, name, value);
             } catch (const AttributeError& e) {
                 Fail(node, e.name(), std::string("Font: ") + e.what());
             }
         }
-        if (manager == nullptr) return;
-        if (id >= 0) manager->AddFont(id, family.c_str(), size, bold, underline, italic);
-        if (isDefault) manager->SetDefaultFont(family.c_str(), size, bold, underline, italic);
+        if (manager == nullptr)
+            return;
+        if (id >= 0)
+            manager->AddFont(id, family.c_str(), size, bold, underline, italic);
+        if (isDefault)
+            manager->SetDefaultFont(family.c_str(), size, bold, underline, italic);
     }
 
     void ApplyDefault(const pugi::xml_node& node)
     {
         const std::wstring name = W(node.attribute("name").value());
         const std::wstring value = W(node.attribute("value").value());
-        if (name.empty()) Fail(node, L"name", "Default: missing attribute 'name'");
+        if (name.empty())
+            Fail(node, L"name", "Default: missing attribute 'name'");
         for (const auto& a : node.attributes()) {
             const std::string key = a.name();
             if (key != "name" && key != "value" && key != "shared") {
@@ -155,22 +188,27 @@ struct CDialogBuilder::Parser {
         }
         // Check the list now, so a typo is reported where it was written.
         std::unique_ptr<CControlUI> probe(CreateBuiltinControl(name));
-        if (!probe && callback) probe.reset(callback->CreateControl(name.c_str()));
-        if (!probe) Fail(node, name, "Default: unknown control class '" + attr::Narrow(name) + "'");
+        if (!probe && callback)
+            probe.reset(callback->CreateControl(name.c_str()));
+        if (!probe)
+            Fail(node, name, "Default: unknown control class '" + attr::Narrow(name) + "'");
         try {
             probe->ApplyAttributeList(value.c_str());
         } catch (const AttributeError& e) {
             Fail(node, e.name(), std::string("Default ") + attr::Narrow(name) + ": " + e.what());
         }
-        if (manager) manager->AddDefaultAttributeList(name.c_str(), value.c_str());
+        if (manager)
+            manager->AddDefaultAttributeList(name.c_str(), value.c_str());
     }
 
     CControlUI* Build(const pugi::xml_node& node, CControlUI* parent)
     {
         const std::wstring className = W(node.name());
         std::unique_ptr<CControlUI> control(CreateBuiltinControl(className));
-        if (!control && callback) control.reset(callback->CreateControl(className.c_str()));
-        if (!control) Fail(node, className, "unknown element '" + attr::Narrow(className) + "'");
+        if (!control && callback)
+            control.reset(callback->CreateControl(className.c_str()));
+        if (!control)
+            Fail(node, className, "unknown element '" + attr::Narrow(className) + "'");
 
         if (manager) {
             if (LPCTSTR defaults = manager->GetDefaultAttributeList(className.c_str())) {
@@ -184,7 +222,8 @@ struct CDialogBuilder::Parser {
         for (const auto& a : node.attributes()) {
             const std::wstring name = W(a.name());
             std::wstring value = W(a.value());
-            if (name == L"text" || name == L"tooltip") value = Localised(value);
+            if (name == L"text" || name == L"tooltip")
+                value = Localised(value);
             try {
                 control->SetAttribute(name.c_str(), value.c_str());
             } catch (const AttributeError& e) {
@@ -193,7 +232,8 @@ struct CDialogBuilder::Parser {
         }
         auto* container = static_cast<IContainerUI*>(control->GetInterface(DUI_CTR_ICONTAINER));
         for (const auto& child : node.children()) {
-            if (child.type() != pugi::node_element) continue;
+            if (child.type() != pugi::node_element)
+                continue;
             if (container == nullptr) {
                 Fail(child, W(child.name()), attr::Narrow(className) + " cannot hold child elements");
             }
@@ -221,7 +261,8 @@ CControlUI* CDialogBuilder::Create(STRINGorID xml, LPCTSTR, IDialogBuilderCallba
         text = attr::Narrow(source);
     } else {
         std::string path = attr::Narrow(source);
-        if (path.empty() || path[0] != '/') path = attr::Narrow(CPaintManagerUI::GetResourcePath().str()) + path;
+        if (path.empty() || path[0] != '/')
+            path = attr::Narrow(CPaintManagerUI::GetResourcePath().str()) + path;
         fileLabel = path;
         std::ifstream in(path, std::ios::binary);
         if (!in) {
@@ -237,7 +278,8 @@ CControlUI* CDialogBuilder::Create(STRINGorID xml, LPCTSTR, IDialogBuilderCallba
     pugi::xml_document doc;
     const pugi::xml_parse_result parsed = doc.load_buffer(text.data(), text.size());
     if (!parsed) {
-        m_error = SkinError{fileLabel, LineOf(text, parsed.offset), L"", std::string("XML: ") + parsed.description()};
+        m_error = SkinError{fileLabel, LineOf(text, parsed.offset), L"",
+                            std::string("XML: ") + parsed.description()};
         std::fprintf(stderr, "%s\n", m_error->ToString().c_str());
         return nullptr;
     }
@@ -249,7 +291,8 @@ CControlUI* CDialogBuilder::Create(STRINGorID xml, LPCTSTR, IDialogBuilderCallba
         if (std::string(root.name()) == "Window") {
             parser.ApplyWindow(root);
             for (const auto& child : root.children()) {
-                if (child.type() != pugi::node_element) continue;
+                if (child.type() != pugi::node_element)
+                    continue;
                 const std::string name = child.name();
                 if (name == "Font") {
                     parser.ApplyFont(child);
@@ -275,4 +318,4 @@ CControlUI* CDialogBuilder::Create(STRINGorID xml, LPCTSTR, IDialogBuilderCallba
     }
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

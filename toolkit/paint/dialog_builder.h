@@ -27,7 +27,8 @@ namespace DuiLib {
 class CControlUI;
 class CPaintManagerUI;
 
-class IDialogBuilderCallback {
+class IDialogBuilderCallback
+{
 public:
     virtual ~IDialogBuilderCallback() = default;
     // A control for an element name the toolkit does not know, or null.
@@ -35,13 +36,15 @@ public:
 };
 
 // A skin file name or XML text, as DuiLib's STRINGorID.
-class STRINGorID {
+class STRINGorID
+{
 public:
-    STRINGorID(LPCTSTR lpString) : m_lpstr(lpString) {}  // NOLINT: implicit like DuiLib
+    STRINGorID(LPCTSTR lpString) : m_lpstr(lpString) {} // NOLINT: implicit like DuiLib
     LPCTSTR m_lpstr;
 };
 
-class CDialogBuilder {
+class CDialogBuilder
+{
 public:
     CDialogBuilder();
     ~CDialogBuilder();
@@ -65,4 +68,4 @@ private:
 // Makes the control for a built-in element name, or null.
 CControlUI* CreateBuiltinControl(const std::wstring& className);
 
-}  // namespace DuiLib
+} // namespace DuiLib

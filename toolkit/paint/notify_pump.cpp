@@ -14,7 +14,8 @@ const DUI_MSGMAP* CNotifyPump::GetMessageMap() const
 
 bool CNotifyPump::AddVirtualWnd(CDuiString strName, CNotifyPump* pObject)
 {
-    if (pObject == nullptr || m_VirtualWndMap.count(strName) != 0) return false;
+    if (pObject == nullptr || m_VirtualWndMap.count(strName) != 0)
+        return false;
     m_VirtualWndMap[strName] = pObject;
     return true;
 }
@@ -40,10 +41,13 @@ bool CNotifyPump::LoopDispatch(TNotifyUI& msg)
 {
     const CDuiString senderName = msg.pSender != nullptr ? msg.pSender->GetName() : CDuiString();
     for (const DUI_MSGMAP* map = GetMessageMap(); map != nullptr; map = map->pBaseMap) {
-        for (const DUI_MSGMAP_ENTRY* entry = map->lpEntries; entry != nullptr && entry->pfn != nullptr; ++entry) {
-            if (msg.sType != entry->sMsgType) continue;
+        for (const DUI_MSGMAP_ENTRY* entry = map->lpEntries; entry != nullptr && entry->pfn != nullptr;
+             ++entry) {
+            if (msg.sType != entry->sMsgType)
+                continue;
             const bool anySender = entry->sCtrlName == nullptr || entry->sCtrlName[0] == 0;
-            if (!anySender && senderName != entry->sCtrlName) continue;
+            if (!anySender && senderName != entry->sCtrlName)
+                continue;
             entry->pfn(this, msg);
             return true;
         }
@@ -51,4 +55,4 @@ bool CNotifyPump::LoopDispatch(TNotifyUI& msg)
     return false;
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

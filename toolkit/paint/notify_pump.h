@@ -23,32 +23,33 @@ class CNotifyPump;
 // classes.
 using DUI_PMSG = void (*)(CNotifyPump* pump, TNotifyUI& msg);
 
-template <class T>
-struct NotifyHandlerClass;
-template <class C>
-struct NotifyHandlerClass<void (C::*)(TNotifyUI&)> {
+template <class T> struct NotifyHandlerClass;
+template <class C> struct NotifyHandlerClass<void (C::*)(TNotifyUI&)>
+{
     using type = C;
 };
 
-template <auto Handler>
-void CallNotifyHandler(CNotifyPump* pump, TNotifyUI& msg)
+template <auto Handler> void CallNotifyHandler(CNotifyPump* pump, TNotifyUI& msg)
 {
     using Class = typename NotifyHandlerClass<decltype(Handler)>::type;
     (static_cast<Class*>(pump)->*Handler)(msg);
 }
 
-struct DUI_MSGMAP_ENTRY {
-    LPCTSTR sMsgType;   // notification type
-    LPCTSTR sCtrlName;  // sender's name; empty matches every sender
+struct DUI_MSGMAP_ENTRY
+{
+    LPCTSTR sMsgType;  // notification type
+    LPCTSTR sCtrlName; // sender's name; empty matches every sender
     DUI_PMSG pfn;
 };
 
-struct DUI_MSGMAP {
+struct DUI_MSGMAP
+{
     const DUI_MSGMAP* pBaseMap;
-    const DUI_MSGMAP_ENTRY* lpEntries;  // ends with an entry whose pfn is null
+    const DUI_MSGMAP_ENTRY* lpEntries; // ends with an entry whose pfn is null
 };
 
-class CNotifyPump {
+class CNotifyPump
+{
 public:
     virtual ~CNotifyPump() = default;
     bool AddVirtualWnd(CDuiString strName, CNotifyPump* pObject);
@@ -69,36 +70,45 @@ private:
     std::map<CDuiString, CNotifyPump*> m_VirtualWndMap;
 };
 
-#define DUI_DECLARE_MESSAGE_MAP()                                  \
-private:                                                            \
-    static const ::DuiLib::DUI_MSGMAP_ENTRY _messageEntries[];     \
-                                                                    \
-protected:                                                          \
-    static const ::DuiLib::DUI_MSGMAP messageMap;                  \
+#define DUI_DECLARE_MESSAGE_MAP()                                                                            \
+private:                                                                                                     \
+    static const ::DuiLib::DUI_MSGMAP_ENTRY _messageEntries[];                                               \
+                                                                                                             \
+protected:                                                                                                   \
+    static const ::DuiLib::DUI_MSGMAP messageMap;                                                            \
     const ::DuiLib::DUI_MSGMAP* GetMessageMap() const override;
 
-#define DUI_BEGIN_MESSAGE_MAP(theClass)                                                          \
-    const ::DuiLib::DUI_MSGMAP* theClass::GetMessageMap() const { return &theClass::messageMap; } \
-    const ::DuiLib::DUI_MSGMAP theClass::messageMap = {&::DuiLib::CNotifyPump::messageMap,      \
-                                                       &theClass::_messageEntries[0]};         \
+#define DUI_BEGIN_MESSAGE_MAP(theClass)                                                                      \
+    const ::DuiLib::DUI_MSGMAP* theClass::GetMessageMap() const                                              \
+    {                                                                                                        \
+        return &theClass::messageMap;                                                                        \
+    }                                                                                                        \
+    const ::DuiLib::DUI_MSGMAP theClass::messageMap = {&::DuiLib::CNotifyPump::messageMap,                   \
+                                                       &theClass::_messageEntries[0]};                       \
     const ::DuiLib::DUI_MSGMAP_ENTRY theClass::_messageEntries[] = {
 
-#define DUI_BEGIN_MESSAGE_MAP_BASE(theClass, baseClass)                                          \
-    const ::DuiLib::DUI_MSGMAP* theClass::GetMessageMap() const { return &theClass::messageMap; } \
-    const ::DuiLib::DUI_MSGMAP theClass::messageMap = {&baseClass::messageMap, &theClass::_messageEntries[0]}; \
+#define DUI_BEGIN_MESSAGE_MAP_BASE(theClass, baseClass)                                                      \
+    const ::DuiLib::DUI_MSGMAP* theClass::GetMessageMap() const                                              \
+    {                                                                                                        \
+        return &theClass::messageMap;                                                                        \
+    }                                                                                                        \
+    const ::DuiLib::DUI_MSGMAP theClass::messageMap = {&baseClass::messageMap,                               \
+                                                       &theClass::_messageEntries[0]};                       \
     const ::DuiLib::DUI_MSGMAP_ENTRY theClass::_messageEntries[] = {
 
-#define DUI_END_MESSAGE_MAP() \
-    {nullptr, nullptr, nullptr} \
-    };
+#define DUI_END_MESSAGE_MAP()                                                                                \
+    {                                                                                                        \
+        nullptr, nullptr, nullptr                                                                            \
+    }                                                                                                        \
+    }                                                                                                        \
+    ;
 
-#define DUI_ON_MSGTYPE(msgtype, memberFxn) \
-    {msgtype, L"", &::DuiLib::CallNotifyHandler<&memberFxn>},
+#define DUI_ON_MSGTYPE(msgtype, memberFxn) {msgtype, L"", &::DuiLib::CallNotifyHandler<&memberFxn>},
 
-#define DUI_ON_MSGTYPE_CTRNAME(msgtype, ctrname, memberFxn) \
+#define DUI_ON_MSGTYPE_CTRNAME(msgtype, ctrname, memberFxn)                                                  \
     {msgtype, ctrname, &::DuiLib::CallNotifyHandler<&memberFxn>},
 
-#define DUI_ON_CLICK_CTRNAME(ctrname, memberFxn) \
+#define DUI_ON_CLICK_CTRNAME(ctrname, memberFxn)                                                             \
     {DUI_MSGTYPE_CLICK, ctrname, &::DuiLib::CallNotifyHandler<&memberFxn>},
 
-}  // namespace DuiLib
+} // namespace DuiLib

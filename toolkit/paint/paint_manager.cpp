@@ -24,7 +24,8 @@ CDuiString& InstancePath()
     static CDuiString path = [] {
         const char* env = std::getenv("SPACEMGM_RESOURCE_ROOT");
         std::string root = env != nullptr && *env != 0 ? env : ".";
-        if (root.back() != '/') root += '/';
+        if (root.back() != '/')
+            root += '/';
         return CDuiString(attr::Widen(root));
     }();
     return path;
@@ -50,20 +51,23 @@ CControlUI* FindByPoint(CControlUI* control, LPVOID)
 bool IsAncestorOrSelf(const CControlUI* ancestor, const CControlUI* control)
 {
     for (const CControlUI* c = control; c != nullptr; c = c->GetParent()) {
-        if (c == ancestor) return true;
+        if (c == ancestor)
+            return true;
     }
     return false;
 }
 
 RECT UnionRects(const RECT& a, const RECT& b)
 {
-    if (RectIsEmpty(a)) return b;
-    if (RectIsEmpty(b)) return a;
+    if (RectIsEmpty(a))
+        return b;
+    if (RectIsEmpty(b))
+        return a;
     return RECT{std::min(a.left, b.left), std::min(a.top, b.top), std::max(a.right, b.right),
                 std::max(a.bottom, b.bottom)};
 }
 
-}  // namespace
+} // namespace
 
 CPaintManagerUI::CPaintManagerUI()
 {
@@ -75,7 +79,8 @@ CPaintManagerUI::~CPaintManagerUI()
 {
     m_delayedCleanup.clear();
     for (const auto& timer : m_timers) {
-        if (m_hWndPaint != nullptr) ::KillTimer(m_hWndPaint, timer.windowTimerId);
+        if (m_hWndPaint != nullptr)
+            ::KillTimer(m_hWndPaint, timer.windowTimerId);
     }
     m_timers.clear();
     m_pFocus = m_pEventHover = m_pEventClick = nullptr;
@@ -99,7 +104,8 @@ void CPaintManagerUI::SetInstancePath(LPCTSTR pStrPath)
 {
     std::lock_guard<std::mutex> lock(g_pathMutex);
     std::wstring path = pStrPath ? pStrPath : L"";
-    if (!path.empty() && path.back() != L'/') path += L'/';
+    if (!path.empty() && path.back() != L'/')
+        path += L'/';
     InstancePath() = path;
     ResourcePath() = InstancePath() + L"Res/skin/";
 }
@@ -114,7 +120,8 @@ void CPaintManagerUI::SetResourcePath(LPCTSTR pStrPath)
 {
     std::lock_guard<std::mutex> lock(g_pathMutex);
     std::wstring path = pStrPath ? pStrPath : L"";
-    if (!path.empty() && path.back() != L'/') path += L'/';
+    if (!path.empty() && path.back() != L'/')
+        path += L'/';
     ResourcePath() = path;
 }
 
@@ -126,9 +133,11 @@ CDuiString CPaintManagerUI::GetResourcePath()
 
 bool CPaintManagerUI::AttachDialog(CControlUI* pControl)
 {
-    if (pControl == nullptr) return false;
+    if (pControl == nullptr)
+        return false;
     m_pFocus = m_pEventHover = m_pEventClick = nullptr;
-    if (m_root) AddDelayedCleanup(std::move(m_root));
+    if (m_root)
+        AddDelayedCleanup(std::move(m_root));
     m_root.reset(pControl);
     m_bUpdateNeeded = true;
     m_bFirstLayout = true;
@@ -137,7 +146,8 @@ bool CPaintManagerUI::AttachDialog(CControlUI* pControl)
 
 bool CPaintManagerUI::InitControls(CControlUI* pControl, CControlUI* pParent)
 {
-    if (pControl == nullptr) return false;
+    if (pControl == nullptr)
+        return false;
     pControl->SetManager(this, pParent != nullptr ? pParent : pControl->GetParent(), true);
     pControl->FindControl(
         [](CControlUI* c, LPVOID) -> CControlUI* {
@@ -151,42 +161,52 @@ bool CPaintManagerUI::InitControls(CControlUI* pControl, CControlUI* pParent)
 
 CControlUI* CPaintManagerUI::FindControl(POINT pt) const
 {
-    if (!m_root) return nullptr;
+    if (!m_root)
+        return nullptr;
     return m_root->FindControl(FindByPoint, &pt, UIFIND_VISIBLE | UIFIND_HITTEST | UIFIND_TOP_FIRST);
 }
 
 CControlUI* CPaintManagerUI::FindControl(LPCTSTR pstrName) const
 {
-    if (!m_root || pstrName == nullptr) return nullptr;
+    if (!m_root || pstrName == nullptr)
+        return nullptr;
     return m_root->FindControl(FindByName, const_cast<wchar_t*>(pstrName), UIFIND_ALL);
 }
 
 CControlUI* CPaintManagerUI::FindSubControlByPoint(CControlUI* pParent, POINT pt) const
 {
-    if (pParent == nullptr) pParent = m_root.get();
-    if (pParent == nullptr) return nullptr;
+    if (pParent == nullptr)
+        pParent = m_root.get();
+    if (pParent == nullptr)
+        return nullptr;
     return pParent->FindControl(FindByPoint, &pt, UIFIND_VISIBLE | UIFIND_HITTEST | UIFIND_TOP_FIRST);
 }
 
 CControlUI* CPaintManagerUI::FindSubControlByName(CControlUI* pParent, LPCTSTR pstrName) const
 {
-    if (pParent == nullptr) pParent = m_root.get();
-    if (pParent == nullptr || pstrName == nullptr) return nullptr;
+    if (pParent == nullptr)
+        pParent = m_root.get();
+    if (pParent == nullptr || pstrName == nullptr)
+        return nullptr;
     return pParent->FindControl(FindByName, const_cast<wchar_t*>(pstrName), UIFIND_ALL);
 }
 
 CControlUI* CPaintManagerUI::FindSubControlByClass(CControlUI* pParent, LPCTSTR pstrClass, int iIndex) const
 {
-    if (pParent == nullptr) pParent = m_root.get();
-    if (pParent == nullptr || pstrClass == nullptr) return nullptr;
-    struct Query {
+    if (pParent == nullptr)
+        pParent = m_root.get();
+    if (pParent == nullptr || pstrClass == nullptr)
+        return nullptr;
+    struct Query
+    {
         LPCTSTR cls;
         int index;
     } query{pstrClass, iIndex};
     return pParent->FindControl(
         [](CControlUI* c, LPVOID data) -> CControlUI* {
             auto* q = static_cast<Query*>(data);
-            if (CompareNoCase(c->GetClass(), q->cls) != 0) return nullptr;
+            if (CompareNoCase(c->GetClass(), q->cls) != 0)
+                return nullptr;
             return q->index-- == 0 ? c : nullptr;
         },
         &query, UIFIND_ALL);
@@ -194,7 +214,8 @@ CControlUI* CPaintManagerUI::FindSubControlByClass(CControlUI* pParent, LPCTSTR 
 
 bool CPaintManagerUI::AddNotifier(INotifyUI* pControl)
 {
-    if (pControl == nullptr || std::find(m_notifiers.begin(), m_notifiers.end(), pControl) != m_notifiers.end()) {
+    if (pControl == nullptr ||
+        std::find(m_notifiers.begin(), m_notifiers.end(), pControl) != m_notifiers.end()) {
         return false;
     }
     m_notifiers.push_back(pControl);
@@ -204,7 +225,8 @@ bool CPaintManagerUI::AddNotifier(INotifyUI* pControl)
 bool CPaintManagerUI::RemoveNotifier(INotifyUI* pControl)
 {
     const auto it = std::find(m_notifiers.begin(), m_notifiers.end(), pControl);
-    if (it == m_notifiers.end()) return false;
+    if (it == m_notifiers.end())
+        return false;
     m_notifiers.erase(it);
     return true;
 }
@@ -212,7 +234,8 @@ bool CPaintManagerUI::RemoveNotifier(INotifyUI* pControl)
 void CPaintManagerUI::SendNotify(TNotifyUI& Msg, bool bAsync)
 {
     Msg.dwTimestamp = ::GetTickCount();
-    if (Msg.pSender != nullptr && Msg.sVirtualWnd.IsEmpty()) Msg.sVirtualWnd = Msg.pSender->GetVirtualWnd();
+    if (Msg.pSender != nullptr && Msg.sVirtualWnd.IsEmpty())
+        Msg.sVirtualWnd = Msg.pSender->GetVirtualWnd();
     if (bAsync && m_hWndPaint != nullptr) {
         m_asyncNotify.push_back(Msg);
         ::PostMessageW(m_hWndPaint, UIMSG_ASYNC_NOTIFY, 0, 0);
@@ -221,7 +244,8 @@ void CPaintManagerUI::SendNotify(TNotifyUI& Msg, bool bAsync)
     // A notifier may remove itself or others while being notified.
     const auto notifiers = m_notifiers;
     for (INotifyUI* notifier : notifiers) {
-        if (std::find(m_notifiers.begin(), m_notifiers.end(), notifier) != m_notifiers.end()) notifier->Notify(Msg);
+        if (std::find(m_notifiers.begin(), m_notifiers.end(), notifier) != m_notifiers.end())
+            notifier->Notify(Msg);
     }
 }
 
@@ -238,7 +262,8 @@ void CPaintManagerUI::SendNotify(CControlUI* pControl, LPCTSTR pstrMessage, WPAR
 
 bool CPaintManagerUI::AddPreMessageFilter(IMessageFilterUI* pFilter)
 {
-    if (pFilter == nullptr || std::find(m_preFilters.begin(), m_preFilters.end(), pFilter) != m_preFilters.end()) {
+    if (pFilter == nullptr ||
+        std::find(m_preFilters.begin(), m_preFilters.end(), pFilter) != m_preFilters.end()) {
         return false;
     }
     m_preFilters.push_back(pFilter);
@@ -248,14 +273,16 @@ bool CPaintManagerUI::AddPreMessageFilter(IMessageFilterUI* pFilter)
 bool CPaintManagerUI::RemovePreMessageFilter(IMessageFilterUI* pFilter)
 {
     const auto it = std::find(m_preFilters.begin(), m_preFilters.end(), pFilter);
-    if (it == m_preFilters.end()) return false;
+    if (it == m_preFilters.end())
+        return false;
     m_preFilters.erase(it);
     return true;
 }
 
 bool CPaintManagerUI::AddMessageFilter(IMessageFilterUI* pFilter)
 {
-    if (pFilter == nullptr || std::find(m_filters.begin(), m_filters.end(), pFilter) != m_filters.end()) return false;
+    if (pFilter == nullptr || std::find(m_filters.begin(), m_filters.end(), pFilter) != m_filters.end())
+        return false;
     m_filters.push_back(pFilter);
     return true;
 }
@@ -263,7 +290,8 @@ bool CPaintManagerUI::AddMessageFilter(IMessageFilterUI* pFilter)
 bool CPaintManagerUI::RemoveMessageFilter(IMessageFilterUI* pFilter)
 {
     const auto it = std::find(m_filters.begin(), m_filters.end(), pFilter);
-    if (it == m_filters.end()) return false;
+    if (it == m_filters.end())
+        return false;
     m_filters.erase(it);
     return true;
 }
@@ -292,7 +320,8 @@ POINT CPaintManagerUI::ToLogical(LPARAM lParam) const
 void CPaintManagerUI::DispatchEvent(CControlUI* control, int type, POINT pt, WPARAM wParam, LPARAM lParam,
                                     TCHAR key)
 {
-    if (control == nullptr) return;
+    if (control == nullptr)
+        return;
     TEventUI event;
     event.Type = type;
     event.pSender = control;
@@ -306,11 +335,14 @@ void CPaintManagerUI::DispatchEvent(CControlUI* control, int type, POINT pt, WPA
 
 void CPaintManagerUI::UpdateHover(CControlUI* hover, POINT pt)
 {
-    if (hover == m_pEventHover) return;
+    if (hover == m_pEventHover)
+        return;
     CControlUI* old = m_pEventHover;
     m_pEventHover = hover;
-    if (old != nullptr) DispatchEvent(old, UIEVENT_MOUSELEAVE, pt);
-    if (hover != nullptr && hover == m_pEventHover) DispatchEvent(hover, UIEVENT_MOUSEENTER, pt);
+    if (old != nullptr)
+        DispatchEvent(old, UIEVENT_MOUSELEAVE, pt);
+    if (hover != nullptr && hover == m_pEventHover)
+        DispatchEvent(hover, UIEVENT_MOUSEENTER, pt);
 }
 
 bool CPaintManagerUI::MessageHandler(UINT uMsg, WPARAM wParam, LPARAM lParam, LRESULT& lRes)
@@ -333,7 +365,8 @@ bool CPaintManagerUI::MessageHandler(UINT uMsg, WPARAM wParam, LPARAM lParam, LR
             auto pending = std::move(m_asyncNotify);
             m_asyncNotify.clear();
             for (auto& msg : pending) {
-                if (msg.pSender == nullptr || IsInTree(msg.pSender)) SendNotify(msg, false);
+                if (msg.pSender == nullptr || IsInTree(msg.pSender))
+                    SendNotify(msg, false);
             }
             handled = true;
             break;
@@ -373,24 +406,29 @@ bool CPaintManagerUI::MessageHandler(UINT uMsg, WPARAM wParam, LPARAM lParam, LR
             UpdateLayoutIfNeeded();
             const POINT pt = ToLogical(lParam);
             CControlUI* control = FindControl(pt);
-            if (control == nullptr || !control->IsEnabled()) break;
+            if (control == nullptr || !control->IsEnabled())
+                break;
             UpdateHover(control, pt);
             m_pEventClick = control;
-            if (control->GetControlFlags() != 0) SetFocus(control);
-            if (m_pEventClick != nullptr) DispatchEvent(m_pEventClick, UIEVENT_BUTTONDOWN, pt, wParam, lParam);
+            if (control->GetControlFlags() != 0)
+                SetFocus(control);
+            if (m_pEventClick != nullptr)
+                DispatchEvent(m_pEventClick, UIEVENT_BUTTONDOWN, pt, wParam, lParam);
             break;
         }
         case WM_LBUTTONUP: {
             const POINT pt = ToLogical(lParam);
             CControlUI* control = m_pEventClick;
             m_pEventClick = nullptr;
-            if (control != nullptr) DispatchEvent(control, UIEVENT_BUTTONUP, pt, wParam, lParam);
+            if (control != nullptr)
+                DispatchEvent(control, UIEVENT_BUTTONUP, pt, wParam, lParam);
             break;
         }
         case WM_MOUSEWHEEL: {
             UpdateLayoutIfNeeded();
             const POINT pt = ToLogical(lParam);
-            if (CControlUI* control = FindControl(pt)) DispatchEvent(control, UIEVENT_SCROLLWHEEL, pt, wParam, lParam);
+            if (CControlUI* control = FindControl(pt))
+                DispatchEvent(control, UIEVENT_SCROLLWHEEL, pt, wParam, lParam);
             break;
         }
         case WM_KEYDOWN:
@@ -398,7 +436,8 @@ bool CPaintManagerUI::MessageHandler(UINT uMsg, WPARAM wParam, LPARAM lParam, LR
                 SetNextTabControl((lParam & 1) == 0);
                 handled = true;
             } else if (m_pFocus != nullptr) {
-                DispatchEvent(m_pFocus, UIEVENT_KEYDOWN, POINT{0, 0}, wParam, lParam, static_cast<TCHAR>(wParam));
+                DispatchEvent(m_pFocus, UIEVENT_KEYDOWN, POINT{0, 0}, wParam, lParam,
+                              static_cast<TCHAR>(wParam));
             }
             break;
         case WM_TIMER:
@@ -416,7 +455,8 @@ bool CPaintManagerUI::MessageHandler(UINT uMsg, WPARAM wParam, LPARAM lParam, LR
         }
     }
     --m_handlerDepth;
-    if (m_handlerDepth == 0) RunDelayedCleanup();
+    if (m_handlerDepth == 0)
+        RunDelayedCleanup();
     return handled;
 }
 
@@ -425,8 +465,8 @@ FontPtr CPaintManagerUI::MakeScaled(const FontEntry& entry) const
     return MakeFont(entry.family, m_dpi.Scale(entry.size), entry.bold, entry.italic, entry.underline);
 }
 
-HFONT CPaintManagerUI::AddFont(int id, LPCTSTR pStrFontName, int nSize, bool bBold, bool bUnderline, bool bItalic,
-                               bool)
+HFONT CPaintManagerUI::AddFont(int id, LPCTSTR pStrFontName, int nSize, bool bBold, bool bUnderline,
+                               bool bItalic, bool)
 {
     FontEntry entry;
     entry.family = pStrFontName ? pStrFontName : L"";
@@ -446,8 +486,8 @@ HFONT CPaintManagerUI::GetFont(int id)
     return found != m_fonts.end() ? found->second.font.get() : m_defaultFont.font.get();
 }
 
-void CPaintManagerUI::SetDefaultFont(LPCTSTR pStrFontName, int nSize, bool bBold, bool bUnderline, bool bItalic,
-                                     bool)
+void CPaintManagerUI::SetDefaultFont(LPCTSTR pStrFontName, int nSize, bool bBold, bool bUnderline,
+                                     bool bItalic, bool)
 {
     m_defaultFont.family = pStrFontName ? pStrFontName : L"";
     m_defaultFont.size = nSize;
@@ -461,12 +501,14 @@ void CPaintManagerUI::SetDefaultFont(LPCTSTR pStrFontName, int nSize, bool bBold
 void CPaintManagerUI::RebuildFonts()
 {
     m_defaultFont.font = MakeScaled(m_defaultFont);
-    for (auto& entry : m_fonts) entry.second.font = MakeScaled(entry.second);
+    for (auto& entry : m_fonts)
+        entry.second.font = MakeScaled(entry.second);
 }
 
 void CPaintManagerUI::SetDPI(int iDPI)
 {
-    if (iDPI == m_dpi.GetDPI()) return;
+    if (iDPI == m_dpi.GetDPI())
+        return;
     m_dpi.SetScale(iDPI);
     RebuildFonts();
     NeedUpdate();
@@ -476,12 +518,14 @@ void CPaintManagerUI::SetDPI(int iDPI)
 void CPaintManagerUI::SetInitSize(int cx, int cy)
 {
     m_szInitWindowSize = SIZE{cx, cy};
-    if (m_szClient.cx == 0 && m_szClient.cy == 0) SetClientSize(cx, cy);
+    if (m_szClient.cx == 0 && m_szClient.cy == 0)
+        SetClientSize(cx, cy);
 }
 
 void CPaintManagerUI::SetClientSize(int cx, int cy)
 {
-    if (m_szClient.cx == cx && m_szClient.cy == cy) return;
+    if (m_szClient.cx == cx && m_szClient.cy == cy)
+        return;
     m_szClient = SIZE{cx, cy};
     NeedUpdate();
     Invalidate();
@@ -490,14 +534,16 @@ void CPaintManagerUI::SetClientSize(int cx, int cy)
 void CPaintManagerUI::AddDefaultAttributeList(LPCTSTR pStrControlName, LPCTSTR pStrControlAttrList, bool)
 {
     std::wstring name = pStrControlName ? pStrControlName : L"";
-    for (auto& ch : name) ch = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(ch)));
+    for (auto& ch : name)
+        ch = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(ch)));
     m_defaultAttributes[name] = pStrControlAttrList ? pStrControlAttrList : L"";
 }
 
 LPCTSTR CPaintManagerUI::GetDefaultAttributeList(LPCTSTR pStrControlName) const
 {
     std::wstring name = pStrControlName ? pStrControlName : L"";
-    for (auto& ch : name) ch = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(ch)));
+    for (auto& ch : name)
+        ch = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(ch)));
     const auto found = m_defaultAttributes.find(name);
     return found != m_defaultAttributes.end() ? found->second.c_str() : nullptr;
 }
@@ -509,7 +555,8 @@ std::shared_ptr<Image> CPaintManagerUI::GetImage(LPCTSTR file)
 
 void CPaintManagerUI::SetFocus(CControlUI* pControl)
 {
-    if (pControl == m_pFocus) return;
+    if (pControl == m_pFocus)
+        return;
     CControlUI* old = m_pFocus;
     m_pFocus = nullptr;
     if (old != nullptr) {
@@ -525,15 +572,18 @@ void CPaintManagerUI::SetFocus(CControlUI* pControl)
 
 bool CPaintManagerUI::SetNextTabControl(bool bForward)
 {
-    if (!m_root) return false;
+    if (!m_root)
+        return false;
     std::vector<CControlUI*> stops;
     m_root->FindControl(
         [](CControlUI* c, LPVOID data) -> CControlUI* {
-            if (c->GetControlFlags() != 0) static_cast<std::vector<CControlUI*>*>(data)->push_back(c);
+            if (c->GetControlFlags() != 0)
+                static_cast<std::vector<CControlUI*>*>(data)->push_back(c);
             return nullptr;
         },
         &stops, UIFIND_VISIBLE | UIFIND_ENABLED | UIFIND_ME_FIRST);
-    if (stops.empty()) return false;
+    if (stops.empty())
+        return false;
     const auto current = std::find(stops.begin(), stops.end(), m_pFocus);
     std::size_t next = 0;
     if (current != stops.end()) {
@@ -554,7 +604,8 @@ void CPaintManagerUI::Invalidate()
 void CPaintManagerUI::Invalidate(const RECT& rcItem)
 {
     const RECT clipped = IntersectRects(rcItem, RECT{0, 0, m_szClient.cx, m_szClient.cy});
-    if (RectIsEmpty(clipped)) return;
+    if (RectIsEmpty(clipped))
+        return;
     m_rcInvalid = UnionRects(m_rcInvalid, clipped);
     if (!m_bPaintPosted && m_hWndPaint != nullptr) {
         m_bPaintPosted = ::PostMessageW(m_hWndPaint, WM_PAINT, 0, 0) != FALSE;
@@ -569,7 +620,8 @@ void CPaintManagerUI::NeedUpdate()
 
 void CPaintManagerUI::UpdateLayoutIfNeeded()
 {
-    if (!m_root) return;
+    if (!m_root)
+        return;
     const RECT client{0, 0, m_szClient.cx, m_szClient.cy};
     if (m_bUpdateNeeded || m_root->IsUpdateNeeded()) {
         m_bUpdateNeeded = false;
@@ -582,7 +634,8 @@ void CPaintManagerUI::UpdateLayoutIfNeeded()
 
 void CPaintManagerUI::SendWindowInitOnce()
 {
-    if (!m_bFirstLayout || !m_root) return;
+    if (!m_bFirstLayout || !m_root)
+        return;
     m_bFirstLayout = false;
     SendNotify(m_root.get(), DUI_MSGTYPE_WINDOWINIT, 0, 0, false);
     // "windowinit" handlers commonly change sizes.
@@ -591,7 +644,8 @@ void CPaintManagerUI::SendWindowInitOnce()
 
 void CPaintManagerUI::Paint()
 {
-    if (!m_root) return;
+    if (!m_root)
+        return;
     UpdateLayoutIfNeeded();
     SendWindowInitOnce();
     if (m_target == nullptr) {
@@ -601,7 +655,8 @@ void CPaintManagerUI::Paint()
     const int width = m_dpi.Scale(m_szClient.cx);
     const int height = m_dpi.Scale(m_szClient.cy);
     cairo_t* cr = m_target->BeginPaint(width, height);
-    if (cr == nullptr) return;
+    if (cr == nullptr)
+        return;
     Render(cr);
     m_target->EndPaint(cr);
     m_rcInvalid = RECT{0, 0, 0, 0};
@@ -609,10 +664,12 @@ void CPaintManagerUI::Paint()
 
 void CPaintManagerUI::Render(cairo_t* cr)
 {
-    if (!m_root) return;
+    if (!m_root)
+        return;
     UpdateLayoutIfNeeded();
     SendWindowInitOnce();
-    if (!m_root) return;
+    if (!m_root)
+        return;
     RenderContext ctx(cr, m_dpi.GetScaleFactor());
     const RECT client{0, 0, m_szClient.cx, m_szClient.cy};
     ctx.PushClip(client, m_szRoundCorner);
@@ -622,7 +679,8 @@ void CPaintManagerUI::Render(cairo_t* cr)
 
 void CPaintManagerUI::AddDelayedCleanup(std::unique_ptr<CControlUI> pControl)
 {
-    if (!pControl) return;
+    if (!pControl)
+        return;
     ReapObjects(pControl.get());
     m_delayedCleanup.push_back(std::move(pControl));
     if (m_handlerDepth == 0 && m_hWndPaint != nullptr) {
@@ -642,33 +700,41 @@ void CPaintManagerUI::RunDelayedCleanup()
 
 void CPaintManagerUI::ReapObjects(CControlUI* pControl)
 {
-    if (pControl == nullptr) return;
-    if (IsAncestorOrSelf(pControl, m_pEventClick)) m_pEventClick = nullptr;
-    if (IsAncestorOrSelf(pControl, m_pEventHover)) m_pEventHover = nullptr;
-    if (IsAncestorOrSelf(pControl, m_pFocus)) m_pFocus = nullptr;
+    if (pControl == nullptr)
+        return;
+    if (IsAncestorOrSelf(pControl, m_pEventClick))
+        m_pEventClick = nullptr;
+    if (IsAncestorOrSelf(pControl, m_pEventHover))
+        m_pEventHover = nullptr;
+    if (IsAncestorOrSelf(pControl, m_pFocus))
+        m_pFocus = nullptr;
     for (auto it = m_timers.begin(); it != m_timers.end();) {
         if (IsAncestorOrSelf(pControl, it->control)) {
-            if (m_hWndPaint != nullptr) ::KillTimer(m_hWndPaint, it->windowTimerId);
+            if (m_hWndPaint != nullptr)
+                ::KillTimer(m_hWndPaint, it->windowTimerId);
             it = m_timers.erase(it);
         } else {
             ++it;
         }
     }
     for (auto& msg : m_asyncNotify) {
-        if (IsAncestorOrSelf(pControl, msg.pSender)) msg.pSender = nullptr;
+        if (IsAncestorOrSelf(pControl, msg.pSender))
+            msg.pSender = nullptr;
     }
 }
 
 bool CPaintManagerUI::SetTimer(CControlUI* pControl, UINT nTimerID, UINT uElapse)
 {
-    if (pControl == nullptr || m_hWndPaint == nullptr) return false;
+    if (pControl == nullptr || m_hWndPaint == nullptr)
+        return false;
     for (auto& timer : m_timers) {
         if (timer.control == pControl && timer.id == nTimerID) {
             return ::SetTimer(m_hWndPaint, timer.windowTimerId, uElapse, nullptr) != 0;
         }
     }
     const UINT_PTR windowId = ++m_nextTimerId;
-    if (::SetTimer(m_hWndPaint, windowId, uElapse, nullptr) == 0) return false;
+    if (::SetTimer(m_hWndPaint, windowId, uElapse, nullptr) == 0)
+        return false;
     m_timers.push_back(ControlTimer{pControl, nTimerID, windowId});
     return true;
 }
@@ -677,7 +743,8 @@ bool CPaintManagerUI::KillTimer(CControlUI* pControl, UINT nTimerID)
 {
     for (auto it = m_timers.begin(); it != m_timers.end(); ++it) {
         if (it->control == pControl && it->id == nTimerID) {
-            if (m_hWndPaint != nullptr) ::KillTimer(m_hWndPaint, it->windowTimerId);
+            if (m_hWndPaint != nullptr)
+                ::KillTimer(m_hWndPaint, it->windowTimerId);
             m_timers.erase(it);
             return true;
         }
@@ -689,7 +756,8 @@ void CPaintManagerUI::KillTimer(CControlUI* pControl)
 {
     for (auto it = m_timers.begin(); it != m_timers.end();) {
         if (it->control == pControl) {
-            if (m_hWndPaint != nullptr) ::KillTimer(m_hWndPaint, it->windowTimerId);
+            if (m_hWndPaint != nullptr)
+                ::KillTimer(m_hWndPaint, it->windowTimerId);
             it = m_timers.erase(it);
         } else {
             ++it;
@@ -699,7 +767,8 @@ void CPaintManagerUI::KillTimer(CControlUI* pControl)
 
 bool CPaintManagerUI::IsWindowThread() const
 {
-    return m_hWndPaint == nullptr || ::GetWindowThreadProcessId(m_hWndPaint, nullptr) == ::GetCurrentThreadId();
+    return m_hWndPaint == nullptr ||
+           ::GetWindowThreadProcessId(m_hWndPaint, nullptr) == ::GetCurrentThreadId();
 }
 
 bool CPaintManagerUI::RunOnWindowThread(const std::function<void()>& work)
@@ -716,4 +785,4 @@ bool CPaintManagerUI::IsInTree(const CControlUI* pControl) const
     return m_root != nullptr && IsAncestorOrSelf(m_root.get(), pControl);
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -24,7 +24,8 @@ typedef struct _cairo cairo_t;
 namespace DuiLib {
 
 // Where a paint manager's pixels go: an offscreen image or an SDL window.
-class PaintTarget {
+class PaintTarget
+{
 public:
     virtual ~PaintTarget() = default;
     // A cairo context on a canvas of the given device size, cleared to
@@ -34,7 +35,8 @@ public:
     virtual void EndPaint(cairo_t* cr) = 0;
 };
 
-class CPaintManagerUI {
+class CPaintManagerUI
+{
 public:
     CPaintManagerUI();
     ~CPaintManagerUI();
@@ -170,7 +172,8 @@ private:
     void UpdateHover(CControlUI* hover, POINT pt);
     void RebuildFonts();
 
-    struct FontEntry {
+    struct FontEntry
+    {
         std::wstring family;
         int size = 12;
         bool bold = false;
@@ -180,7 +183,8 @@ private:
     };
     FontPtr MakeScaled(const FontEntry& entry) const;
 
-    struct ControlTimer {
+    struct ControlTimer
+    {
         CControlUI* control;
         UINT id;
         UINT_PTR windowTimerId;
@@ -219,4 +223,4 @@ private:
     UINT_PTR m_nextTimerId = 0x7F000000;
 };
 
-}  // namespace DuiLib
+} // namespace DuiLib

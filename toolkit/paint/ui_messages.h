@@ -16,4 +16,4 @@ constexpr UINT UIMSG_GETWINDOWRECT = 0x7FF3;
 // CPaintManagerUI::RunOnWindowThread: lParam points to the function to run.
 constexpr UINT UIMSG_RUN_ON_WINDOW_THREAD = 0x7FF4;
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -39,4 +39,4 @@ FontPtr MakeFont(const std::wstring& family, int pixelSize, bool bold, bool ital
     return std::make_unique<HFONT__>(family, pixelSize < 1 ? 1 : pixelSize, bold, italic, underline);
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

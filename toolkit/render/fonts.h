@@ -9,9 +9,10 @@
 
 typedef struct _PangoFontDescription PangoFontDescription;
 
-struct HFONT__ {
+struct HFONT__
+{
     std::wstring family;
-    int pixelSize = 12;  // device pixels, DPI scale already applied
+    int pixelSize = 12; // device pixels, DPI scale already applied
     bool bold = false;
     bool italic = false;
     bool underline = false;
@@ -24,7 +25,8 @@ struct HFONT__ {
 };
 
 // A measuring device context: only the selected font matters.
-struct HDC__ {
+struct HDC__
+{
     HFONT defaultFont = nullptr;
     HFONT selected = nullptr;
 };
@@ -43,4 +45,4 @@ const wchar_t* FallbackFontFamilies();
 
 FontPtr MakeFont(const std::wstring& family, int pixelSize, bool bold, bool italic, bool underline);
 
-}  // namespace DuiLib
+} // namespace DuiLib

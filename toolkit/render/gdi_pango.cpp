@@ -23,7 +23,8 @@ int ReleaseDC(HWND, HDC hdc)
 
 HGDIOBJ SelectObject(HDC hdc, HGDIOBJ object)
 {
-    if (hdc == nullptr || object == nullptr) return nullptr;
+    if (hdc == nullptr || object == nullptr)
+        return nullptr;
     HFONT previous = hdc->selected;
     hdc->selected = static_cast<HFONT>(object);
     return previous;
@@ -31,8 +32,10 @@ HGDIOBJ SelectObject(HDC hdc, HGDIOBJ object)
 
 BOOL GetTextExtentPoint32W(HDC hdc, const wchar_t* text, int count, SIZE* size)
 {
-    if (hdc == nullptr || size == nullptr || (text == nullptr && count > 0) || count < 0) return FALSE;
+    if (hdc == nullptr || size == nullptr || (text == nullptr && count > 0) || count < 0)
+        return FALSE;
     const HFONT font = hdc->selected != nullptr ? hdc->selected : DefaultContextFont();
-    *size = DuiLib::MeasureSingleLine(*font, std::wstring(text ? text : L"", static_cast<std::size_t>(count)));
+    *size =
+        DuiLib::MeasureSingleLine(*font, std::wstring(text ? text : L"", static_cast<std::size_t>(count)));
     return TRUE;
 }

@@ -14,13 +14,15 @@ namespace {
 bool EndsWith(const std::string& text, const char* suffix)
 {
     const std::string s(suffix);
-    if (text.size() < s.size()) return false;
+    if (text.size() < s.size())
+        return false;
     std::string tail = text.substr(text.size() - s.size());
-    for (auto& ch : tail) ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
+    for (auto& ch : tail)
+        ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
     return tail == s;
 }
 
-}  // namespace
+} // namespace
 
 std::shared_ptr<Image> Image::Load(const std::string& path)
 {
@@ -29,7 +31,8 @@ std::shared_ptr<Image> Image::Load(const std::string& path)
         GError* error = nullptr;
         image->m_svg = rsvg_handle_new_from_file(path.c_str(), &error);
         if (image->m_svg == nullptr) {
-            if (error) g_error_free(error);
+            if (error)
+                g_error_free(error);
             return nullptr;
         }
         gdouble w = 0;
@@ -47,7 +50,8 @@ std::shared_ptr<Image> Image::Load(const std::string& path)
         return image;
     }
     image->m_bitmap = cairo_image_surface_create_from_png(path.c_str());
-    if (cairo_surface_status(image->m_bitmap) != CAIRO_STATUS_SUCCESS) return nullptr;
+    if (cairo_surface_status(image->m_bitmap) != CAIRO_STATUS_SUCCESS)
+        return nullptr;
     image->m_width = cairo_image_surface_get_width(image->m_bitmap);
     image->m_height = cairo_image_surface_get_height(image->m_bitmap);
     return image;
@@ -55,17 +59,21 @@ std::shared_ptr<Image> Image::Load(const std::string& path)
 
 Image::~Image()
 {
-    if (m_bitmap) cairo_surface_destroy(m_bitmap);
-    if (m_svg) g_object_unref(m_svg);
+    if (m_bitmap)
+        cairo_surface_destroy(m_bitmap);
+    if (m_svg)
+        g_object_unref(m_svg);
 }
 
 void Image::Draw(cairo_t* cr, double x, double y, double width, double height, double alpha) const
 {
-    if (width <= 0 || height <= 0) return;
+    if (width <= 0 || height <= 0)
+        return;
     cairo_save(cr);
     if (m_svg) {
         RsvgRectangle viewport{x, y, width, height};
-        if (alpha < 1.0) cairo_push_group(cr);
+        if (alpha < 1.0)
+            cairo_push_group(cr);
         rsvg_handle_render_document(m_svg, cr, &viewport, nullptr);
         if (alpha < 1.0) {
             cairo_pop_group_to_source(cr);
@@ -89,43 +97,47 @@ bool ImageSpec::Parse(const std::wstring& text, ImageSpec& out)
         return true;
     }
     bool ok = true;
-    const bool wellFormed = attr::ForEachInList(text.c_str(), [&](const std::wstring& key, const std::wstring& value) {
-        try {
-            if (key == L"file" || key == L"res") {
-                out.file = value;
-            } else if (key == L"dest") {
-                const RECT r = attr::ParseRect(L"dest", value.c_str());
-                out.dest[0] = r.left;
-                out.dest[1] = r.top;
-                out.dest[2] = r.right;
-                out.dest[3] = r.bottom;
-                out.hasDest = true;
-            } else if (key == L"fade") {
-                out.fade = attr::ParseInt(L"fade", value.c_str());
-            } else {
+    const bool wellFormed =
+        attr::ForEachInList(text.c_str(), [&](const std::wstring& key, const std::wstring& value) {
+            try {
+                if (key == L"file" || key == L"res") {
+                    out.file = value;
+                } else if (key == L"dest") {
+                    const RECT r = attr::ParseRect(L"dest", value.c_str());
+                    out.dest[0] = r.left;
+                    out.dest[1] = r.top;
+                    out.dest[2] = r.right;
+                    out.dest[3] = r.bottom;
+                    out.hasDest = true;
+                } else if (key == L"fade") {
+                    out.fade = attr::ParseInt(L"fade", value.c_str());
+                } else {
+                    ok = false;
+                }
+            } catch (const AttributeError&) {
                 ok = false;
             }
-        } catch (const AttributeError&) {
-            ok = false;
-        }
-    });
+        });
     return wellFormed && ok && !out.file.empty();
 }
 
 std::shared_ptr<Image> ImageCache::Get(const std::wstring& folder, const std::wstring& file)
 {
     std::string path = attr::Narrow(file);
-    if (path.empty()) return nullptr;
+    if (path.empty())
+        return nullptr;
     if (path[0] != '/') {
         std::string base = attr::Narrow(folder);
-        if (!base.empty() && base.back() != '/') base += '/';
+        if (!base.empty() && base.back() != '/')
+            base += '/';
         path = base + path;
     }
     const auto found = m_images.find(path);
-    if (found != m_images.end()) return found->second;
+    if (found != m_images.end())
+        return found->second;
     auto image = Image::Load(path);
     m_images.emplace(path, image);
     return image;
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

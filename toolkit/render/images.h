@@ -12,7 +12,8 @@ typedef struct _RsvgHandle RsvgHandle;
 
 namespace DuiLib {
 
-class Image {
+class Image
+{
 public:
     static std::shared_ptr<Image> Load(const std::string& path);
     ~Image();
@@ -34,7 +35,8 @@ private:
 
 // A drawing instruction parsed from a DuiLib image string: either a plain
 // path or  file='a.svg' dest='l,t,r,b' fade='200' .
-struct ImageSpec {
+struct ImageSpec
+{
     std::wstring file;
     bool hasDest = false;
     int dest[4] = {0, 0, 0, 0};
@@ -43,7 +45,8 @@ struct ImageSpec {
     static bool Parse(const std::wstring& text, ImageSpec& out);
 };
 
-class ImageCache {
+class ImageCache
+{
 public:
     // Resolves `file` against `folder` and loads it once; null when the file
     // is missing or unreadable.
@@ -53,4 +56,4 @@ private:
     std::map<std::string, std::shared_ptr<Image>> m_images;
 };
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -47,12 +47,14 @@ PangoLayout* MakeLayout(PangoContext* context, const std::wstring& text, const H
     if (width > 0) {
         pango_layout_set_width(layout, width * PANGO_SCALE);
         if (singleLine) {
-            pango_layout_set_ellipsize(layout, (style & DT_END_ELLIPSIS) ? PANGO_ELLIPSIZE_END : PANGO_ELLIPSIZE_NONE);
+            pango_layout_set_ellipsize(layout, (style & DT_END_ELLIPSIS) ? PANGO_ELLIPSIZE_END
+                                                                         : PANGO_ELLIPSIZE_NONE);
         } else {
             pango_layout_set_wrap(layout, PANGO_WRAP_WORD_CHAR);
         }
     }
-    if (singleLine) pango_layout_set_single_paragraph_mode(layout, TRUE);
+    if (singleLine)
+        pango_layout_set_single_paragraph_mode(layout, TRUE);
     if (style & DT_CENTER) {
         pango_layout_set_alignment(layout, PANGO_ALIGN_CENTER);
     } else if (style & DT_RIGHT) {
@@ -72,7 +74,7 @@ void ConfigureTextContext(PangoContext* context)
     pango_context_set_round_glyph_positions(context, FALSE);
 }
 
-}  // namespace
+} // namespace
 
 bool RectIsEmpty(const RECT& r)
 {
@@ -91,7 +93,8 @@ RECT IntersectRects(const RECT& a, const RECT& b)
     r.top = std::max(a.top, b.top);
     r.right = std::min(a.right, b.right);
     r.bottom = std::min(a.bottom, b.bottom);
-    if (RectIsEmpty(r)) r = RECT{0, 0, 0, 0};
+    if (RectIsEmpty(r))
+        r = RECT{0, 0, 0, 0};
     return r;
 }
 
@@ -103,7 +106,8 @@ RenderContext::RenderContext(cairo_t* cr, double scale) : m_cr(cr), m_scale(scal
 
 RenderContext::~RenderContext()
 {
-    while (!m_clips.empty()) PopClip();
+    while (!m_clips.empty())
+        PopClip();
     cairo_restore(m_cr);
 }
 
@@ -149,7 +153,8 @@ void RenderContext::AddRoundPath(const RECT& rect, SIZE round, RoundCorners corn
 
 void RenderContext::FillRect(const RECT& rect, DWORD color)
 {
-    if (Invisible(color) || RectIsEmpty(rect)) return;
+    if (Invisible(color) || RectIsEmpty(rect))
+        return;
     SetSource(m_cr, color, false);
     cairo_rectangle(m_cr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top);
     cairo_fill(m_cr);
@@ -157,7 +162,8 @@ void RenderContext::FillRect(const RECT& rect, DWORD color)
 
 void RenderContext::FillRoundRect(const RECT& rect, DWORD color, SIZE round, RoundCorners corners)
 {
-    if (Invisible(color) || RectIsEmpty(rect)) return;
+    if (Invisible(color) || RectIsEmpty(rect))
+        return;
     SetSource(m_cr, color, false);
     AddRoundPath(rect, round, corners);
     cairo_fill(m_cr);
@@ -165,7 +171,8 @@ void RenderContext::FillRoundRect(const RECT& rect, DWORD color, SIZE round, Rou
 
 void RenderContext::DrawBorder(const RECT& rect, int width, DWORD color, SIZE round)
 {
-    if (Invisible(color) || width <= 0 || RectIsEmpty(rect)) return;
+    if (Invisible(color) || width <= 0 || RectIsEmpty(rect))
+        return;
     const double inset = width / 2.0;
     SetSource(m_cr, color, false);
     cairo_set_line_width(m_cr, width);
@@ -182,7 +189,8 @@ void RenderContext::DrawBorder(const RECT& rect, int width, DWORD color, SIZE ro
 void RenderContext::DrawText(const RECT& rect, const std::wstring& text, const HFONT__& font, DWORD color,
                              UINT style)
 {
-    if (text.empty() || RectIsEmpty(rect)) return;
+    if (text.empty() || RectIsEmpty(rect))
+        return;
     PangoContext* context = pango_cairo_create_context(m_cr);
     ConfigureTextContext(context);
     const int width = rect.right - rect.left;
@@ -210,7 +218,8 @@ void RenderContext::DrawText(const RECT& rect, const std::wstring& text, const H
 
 void RenderContext::DrawImage(const RECT& rect, const Image& image, int alpha)
 {
-    if (RectIsEmpty(rect) || alpha <= 0) return;
+    if (RectIsEmpty(rect) || alpha <= 0)
+        return;
     image.Draw(m_cr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
                std::min(alpha, 255) / 255.0);
 }
@@ -225,14 +234,16 @@ void RenderContext::PushClip(const RECT& rect, SIZE round, RoundCorners corners)
 
 void RenderContext::PopClip()
 {
-    if (m_clips.empty()) return;
+    if (m_clips.empty())
+        return;
     m_clips.pop_back();
     cairo_restore(m_cr);
 }
 
 bool RenderContext::IsVisible(const RECT& rect) const
 {
-    if (RectIsEmpty(rect)) return false;
+    if (RectIsEmpty(rect))
+        return false;
     return m_clips.empty() || RectsIntersect(m_clips.back(), rect);
 }
 
@@ -242,4 +253,4 @@ SIZE MeasureText(const std::wstring& text, const HFONT__& font, UINT style, int 
     return TakeLayoutSize(MakeLayout(context, text, font, style, maxWidth, scale > 0 ? scale : 1.0));
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -16,9 +16,15 @@ namespace DuiLib {
 class Image;
 
 // Which corners of a rounded rectangle are rounded.
-enum class RoundCorners { All = 0, Left = 1, Right = 2 };
+enum class RoundCorners
+{
+    All = 0,
+    Left = 1,
+    Right = 2
+};
 
-class RenderContext {
+class RenderContext
+{
 public:
     RenderContext(cairo_t* cr, double scale);
     ~RenderContext();
@@ -59,4 +65,4 @@ bool RectIsEmpty(const RECT& r);
 // within `maxWidth` logical pixels (0 = unbounded), in logical pixels.
 SIZE MeasureText(const std::wstring& text, const HFONT__& font, UINT style, int maxWidth, double scale);
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -11,7 +11,8 @@ namespace DuiLib {
 
 PangoContext* MeasuringContext()
 {
-    struct Holder {
+    struct Holder
+    {
         PangoContext* context = nullptr;
         Holder()
         {
@@ -52,4 +53,4 @@ SIZE TakeLayoutSize(PangoLayout* layout)
     return size;
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -26,4 +26,4 @@ SIZE MeasureSingleLine(const HFONT__& font, const std::wstring& text);
 // layout.
 SIZE TakeLayoutSize(PangoLayout* layout);
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -22,7 +22,8 @@
 
 #include "platform/win32.h"
 
-struct MSG {
+struct MSG
+{
     HWND hwnd;
     UINT message;
     WPARAM wParam;
@@ -91,7 +92,8 @@ BOOL WaitMessage();
 //
 // A thread blocked in SendMessageW still waits on its queue alone: like
 // Windows, it runs only sent messages while it waits.
-struct ExternalEventSource {
+struct ExternalEventSource
+{
     std::function<void(DWORD timeoutMs)> wait;
     std::function<void()> wake;
 };

@@ -15,22 +15,26 @@ using toolkit_win32::WindowRegistry;
 
 namespace {
 
-MSG MakeMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+MSG MakeMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam)
+{
     return MSG{hwnd, message, wParam, lParam, GetTickCount(), POINT{0, 0}};
 }
 
-bool OwnedByCallingThread(const WindowRecord& window) {
+bool OwnedByCallingThread(const WindowRecord& window)
+{
     return window.owner == CurrentThreadQueue();
 }
 
 // A window is in the table from its creation until after its WM_NCDESTROY.
-bool WindowExists(HWND hwnd) {
+bool WindowExists(HWND hwnd)
+{
     return WindowRegistry::Instance().FindWindowRecord(hwnd) != nullptr;
 }
 
-}  // namespace
+} // namespace
 
-HWND CreateWindowHandle(WindowProcedure procedure, LPARAM createParam) {
+HWND CreateWindowHandle(WindowProcedure procedure, LPARAM createParam)
+{
     if (!procedure) {
         return nullptr;
     }
@@ -45,7 +49,8 @@ HWND CreateWindowHandle(WindowProcedure procedure, LPARAM createParam) {
     return hwnd;
 }
 
-BOOL DestroyWindow(HWND hWnd) {
+BOOL DestroyWindow(HWND hWnd)
+{
     auto window = WindowRegistry::Instance().FindWindowRecord(hWnd);
     if (!window || !OwnedByCallingThread(*window) || window->destroying) {
         return FALSE;
@@ -60,11 +65,13 @@ BOOL DestroyWindow(HWND hWnd) {
     return TRUE;
 }
 
-BOOL IsWindow(HWND hWnd) {
+BOOL IsWindow(HWND hWnd)
+{
     return hWnd != nullptr && WindowExists(hWnd) ? TRUE : FALSE;
 }
 
-DWORD GetWindowThreadProcessId(HWND hWnd, DWORD* processId) {
+DWORD GetWindowThreadProcessId(HWND hWnd, DWORD* processId)
+{
     auto window = WindowRegistry::Instance().FindWindowRecord(hWnd);
     if (!window) {
         return 0;
@@ -75,7 +82,8 @@ DWORD GetWindowThreadProcessId(HWND hWnd, DWORD* processId) {
     return window->owner->ThreadId();
 }
 
-BOOL PostMessageW(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam) {
+BOOL PostMessageW(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
+{
     if (hWnd == nullptr) {
         return CurrentThreadQueue()->Post(MakeMessage(nullptr, msg, wParam, lParam), nullptr) ? TRUE : FALSE;
     }
@@ -86,7 +94,8 @@ BOOL PostMessageW(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam) {
     return window->owner->Post(MakeMessage(hWnd, msg, wParam, lParam), window.get()) ? TRUE : FALSE;
 }
 
-BOOL PostThreadMessageW(DWORD threadId, UINT msg, WPARAM wParam, LPARAM lParam) {
+BOOL PostThreadMessageW(DWORD threadId, UINT msg, WPARAM wParam, LPARAM lParam)
+{
     auto queue = WindowRegistry::Instance().FindThread(threadId);
     if (!queue) {
         return FALSE;
@@ -94,7 +103,8 @@ BOOL PostThreadMessageW(DWORD threadId, UINT msg, WPARAM wParam, LPARAM lParam) 
     return queue->Post(MakeMessage(nullptr, msg, wParam, lParam), nullptr) ? TRUE : FALSE;
 }
 
-LRESULT SendMessageW(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam) {
+LRESULT SendMessageW(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam)
+{
     auto window = WindowRegistry::Instance().FindWindowRecord(hWnd);
     if (!window) {
         return 0;
@@ -115,11 +125,13 @@ LRESULT SendMessageW(HWND hWnd, UINT msg, WPARAM wParam, LPARAM lParam) {
     return self->WaitForReply(*call);
 }
 
-void PostQuitMessage(int exitCode) {
+void PostQuitMessage(int exitCode)
+{
     CurrentThreadQueue()->PostQuit(exitCode);
 }
 
-BOOL PeekMessageW(MSG* msg, HWND hWnd, UINT msgFilterMin, UINT msgFilterMax, UINT removeMsg) {
+BOOL PeekMessageW(MSG* msg, HWND hWnd, UINT msgFilterMin, UINT msgFilterMax, UINT removeMsg)
+{
     if (msg == nullptr) {
         return FALSE;
     }
@@ -127,7 +139,8 @@ BOOL PeekMessageW(MSG* msg, HWND hWnd, UINT msgFilterMin, UINT msgFilterMax, UIN
     return CurrentThreadQueue()->Take(msg, filter, (removeMsg & PM_REMOVE) != 0) ? TRUE : FALSE;
 }
 
-BOOL GetMessageW(MSG* msg, HWND hWnd, UINT msgFilterMin, UINT msgFilterMax) {
+BOOL GetMessageW(MSG* msg, HWND hWnd, UINT msgFilterMin, UINT msgFilterMax)
+{
     if (msg == nullptr || (hWnd != nullptr && !WindowExists(hWnd))) {
         return -1;
     }
@@ -139,11 +152,13 @@ BOOL GetMessageW(MSG* msg, HWND hWnd, UINT msgFilterMin, UINT msgFilterMax) {
     return msg->message == WM_QUIT ? FALSE : TRUE;
 }
 
-BOOL TranslateMessage(const MSG* /*msg*/) {
+BOOL TranslateMessage(const MSG* /*msg*/)
+{
     return FALSE;
 }
 
-LRESULT DispatchMessageW(const MSG* msg) {
+LRESULT DispatchMessageW(const MSG* msg)
+{
     if (msg == nullptr || msg->hwnd == nullptr) {
         return 0;
     }
@@ -154,7 +169,8 @@ LRESULT DispatchMessageW(const MSG* msg) {
     return window->procedure(msg->hwnd, msg->message, msg->wParam, msg->lParam);
 }
 
-BOOL WaitMessage() {
+BOOL WaitMessage()
+{
     const auto& queue = CurrentThreadQueue();
     const MessageFilter everything;
     MSG peeked{};
@@ -164,11 +180,13 @@ BOOL WaitMessage() {
     return TRUE;
 }
 
-void SetThreadEventSource(ExternalEventSource source) {
+void SetThreadEventSource(ExternalEventSource source)
+{
     CurrentThreadQueue()->SetEventSource(std::move(source));
 }
 
-DWORD GetQueueWaitTimeout() {
+DWORD GetQueueWaitTimeout()
+{
     const auto& queue = CurrentThreadQueue();
     queue->RunIncomingSends();
     return queue->IdleTimeout();

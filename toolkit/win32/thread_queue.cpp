@@ -9,13 +9,15 @@ namespace {
 // exactly this period.
 constexpr std::chrono::milliseconds kMinimumTimerInterval{10};
 
-std::chrono::milliseconds ClampInterval(std::chrono::milliseconds interval) {
+std::chrono::milliseconds ClampInterval(std::chrono::milliseconds interval)
+{
     return std::max(interval, kMinimumTimerInterval);
 }
 
 // Rounded up, so that a loop woken at the deadline finds the timer due
 // instead of waking again a fraction of a millisecond early.
-DWORD MillisecondsUntil(ThreadQueue::Clock::time_point deadline, ThreadQueue::Clock::time_point now) {
+DWORD MillisecondsUntil(ThreadQueue::Clock::time_point deadline, ThreadQueue::Clock::time_point now)
+{
     if (deadline <= now) {
         return 0;
     }
@@ -23,9 +25,10 @@ DWORD MillisecondsUntil(ThreadQueue::Clock::time_point deadline, ThreadQueue::Cl
     return static_cast<DWORD>(std::min<long long>(remaining, INFINITE - 1));
 }
 
-}  // namespace
+} // namespace
 
-void ThreadQueue::NotifyOwner(std::unique_lock<std::mutex>& lock) {
+void ThreadQueue::NotifyOwner(std::unique_lock<std::mutex>& lock)
+{
     ++generation_;
     std::shared_ptr<const std::function<void()>> wake;
     // A change made by the owner itself (say, the wait hook posting input it
@@ -41,7 +44,8 @@ void ThreadQueue::NotifyOwner(std::unique_lock<std::mutex>& lock) {
     }
 }
 
-bool ThreadQueue::Post(const MSG& message, const WindowRecord* target) {
+bool ThreadQueue::Post(const MSG& message, const WindowRecord* target)
+{
     std::unique_lock<std::mutex> lock(mutex_);
     if (!open_ || (target != nullptr && !target->alive)) {
         return false;
@@ -51,7 +55,8 @@ bool ThreadQueue::Post(const MSG& message, const WindowRecord* target) {
     return true;
 }
 
-bool ThreadQueue::QueueSend(const std::shared_ptr<SentCall>& call) {
+bool ThreadQueue::QueueSend(const std::shared_ptr<SentCall>& call)
+{
     std::unique_lock<std::mutex> lock(mutex_);
     if (!open_ || !call->window->alive) {
         return false;
@@ -61,14 +66,16 @@ bool ThreadQueue::QueueSend(const std::shared_ptr<SentCall>& call) {
     return true;
 }
 
-void ThreadQueue::PostQuit(int exitCode) {
+void ThreadQueue::PostQuit(int exitCode)
+{
     std::unique_lock<std::mutex> lock(mutex_);
     quitPosted_ = true;
     quitCode_ = exitCode;
     NotifyOwner(lock);
 }
 
-bool ThreadQueue::SetWindowTimer(const WindowRecord& window, UINT_PTR id, std::chrono::milliseconds interval) {
+bool ThreadQueue::SetWindowTimer(const WindowRecord& window, UINT_PTR id, std::chrono::milliseconds interval)
+{
     interval = ClampInterval(interval);
     std::unique_lock<std::mutex> lock(mutex_);
     if (!open_ || !window.alive) {
@@ -88,7 +95,8 @@ bool ThreadQueue::SetWindowTimer(const WindowRecord& window, UINT_PTR id, std::c
     return true;
 }
 
-UINT_PTR ThreadQueue::SetThreadTimer(UINT_PTR id, std::chrono::milliseconds interval) {
+UINT_PTR ThreadQueue::SetThreadTimer(UINT_PTR id, std::chrono::milliseconds interval)
+{
     interval = ClampInterval(interval);
     std::unique_lock<std::mutex> lock(mutex_);
     if (!open_) {
@@ -109,11 +117,11 @@ UINT_PTR ThreadQueue::SetThreadTimer(UINT_PTR id, std::chrono::milliseconds inte
     return id;
 }
 
-bool ThreadQueue::KillTimer(HWND hwnd, UINT_PTR id) {
+bool ThreadQueue::KillTimer(HWND hwnd, UINT_PTR id)
+{
     std::unique_lock<std::mutex> lock(mutex_);
-    auto existing = std::find_if(timers_.begin(), timers_.end(), [&](const Timer& timer) {
-        return timer.window == hwnd && timer.id == id;
-    });
+    auto existing = std::find_if(timers_.begin(), timers_.end(),
+                                 [&](const Timer& timer) { return timer.window == hwnd && timer.id == id; });
     if (existing == timers_.end()) {
         return false;
     }
@@ -123,7 +131,8 @@ bool ThreadQueue::KillTimer(HWND hwnd, UINT_PTR id) {
     return true;
 }
 
-void ThreadQueue::Complete(SentCall& call, LRESULT result) {
+void ThreadQueue::Complete(SentCall& call, LRESULT result)
+{
     {
         std::lock_guard<std::mutex> lock(mutex_);
         call.result = result;
@@ -134,7 +143,8 @@ void ThreadQueue::Complete(SentCall& call, LRESULT result) {
     changed_.notify_all();
 }
 
-void ThreadQueue::RunIncomingSends() {
+void ThreadQueue::RunIncomingSends()
+{
     for (;;) {
         std::shared_ptr<SentCall> call;
         bool windowAlive = false;
@@ -150,7 +160,8 @@ void ThreadQueue::RunIncomingSends() {
         LRESULT result = 0;
         if (windowAlive) {
             try {
-                result = call->window->procedure(call->window->handle, call->message, call->wParam, call->lParam);
+                result =
+                    call->window->procedure(call->window->handle, call->message, call->wParam, call->lParam);
             } catch (...) {
                 // The sender must not wait forever for a procedure that threw.
                 call->sender->Complete(*call, 0);
@@ -161,7 +172,8 @@ void ThreadQueue::RunIncomingSends() {
     }
 }
 
-bool ThreadQueue::Take(MSG* message, const MessageFilter& filter, bool remove) {
+bool ThreadQueue::Take(MSG* message, const MessageFilter& filter, bool remove)
+{
     RunIncomingSends();
     std::lock_guard<std::mutex> lock(mutex_);
     auto post = std::find_if(posted_.begin(), posted_.end(),
@@ -194,7 +206,8 @@ bool ThreadQueue::Take(MSG* message, const MessageFilter& filter, bool remove) {
     if (earliest == nullptr) {
         return false;
     }
-    *message = MSG{earliest->window, WM_TIMER, static_cast<WPARAM>(earliest->id), 0, GetTickCount(), POINT{0, 0}};
+    *message =
+        MSG{earliest->window, WM_TIMER, static_cast<WPARAM>(earliest->id), 0, GetTickCount(), POINT{0, 0}};
     if (remove) {
         // Counted from now, not from when it was due: a late timer gives one
         // message and then keeps its period, it does not catch up.
@@ -203,7 +216,8 @@ bool ThreadQueue::Take(MSG* message, const MessageFilter& filter, bool remove) {
     return true;
 }
 
-bool ThreadQueue::HasWorkLocked(const MessageFilter& filter, Clock::time_point now) const {
+bool ThreadQueue::HasWorkLocked(const MessageFilter& filter, Clock::time_point now) const
+{
     if (!incoming_.empty()) {
         return true;
     }
@@ -218,7 +232,8 @@ bool ThreadQueue::HasWorkLocked(const MessageFilter& filter, Clock::time_point n
     return next && *next <= now;
 }
 
-std::optional<ThreadQueue::Clock::time_point> ThreadQueue::NextTimerLocked(const MessageFilter& filter) const {
+std::optional<ThreadQueue::Clock::time_point> ThreadQueue::NextTimerLocked(const MessageFilter& filter) const
+{
     std::optional<Clock::time_point> next;
     if (!filter.TakesMessage(WM_TIMER)) {
         return next;
@@ -231,7 +246,8 @@ std::optional<ThreadQueue::Clock::time_point> ThreadQueue::NextTimerLocked(const
     return next;
 }
 
-void ThreadQueue::WaitForWork(const MessageFilter& filter) {
+void ThreadQueue::WaitForWork(const MessageFilter& filter)
+{
     std::unique_lock<std::mutex> lock(mutex_);
     const auto now = Clock::now();
     if (HasWorkLocked(filter, now)) {
@@ -256,7 +272,8 @@ void ThreadQueue::WaitForWork(const MessageFilter& filter) {
     }
 }
 
-LRESULT ThreadQueue::WaitForReply(SentCall& call) {
+LRESULT ThreadQueue::WaitForReply(SentCall& call)
+{
     for (;;) {
         {
             std::unique_lock<std::mutex> lock(mutex_);
@@ -269,7 +286,8 @@ LRESULT ThreadQueue::WaitForReply(SentCall& call) {
     }
 }
 
-DWORD ThreadQueue::IdleTimeout() {
+DWORD ThreadQueue::IdleTimeout()
+{
     std::lock_guard<std::mutex> lock(mutex_);
     const auto now = Clock::now();
     const MessageFilter everything;
@@ -281,21 +299,24 @@ DWORD ThreadQueue::IdleTimeout() {
     return nextTimer ? MillisecondsUntil(*nextTimer, now) : INFINITE;
 }
 
-void ThreadQueue::SetEventSource(ExternalEventSource source) {
+void ThreadQueue::SetEventSource(ExternalEventSource source)
+{
     waitHook_ = std::move(source.wait);
     std::lock_guard<std::mutex> lock(mutex_);
     wakeHook_ = source.wake ? std::make_shared<const std::function<void()>>(std::move(source.wake)) : nullptr;
     wakeArmed_ = false;
 }
 
-void ThreadQueue::AnswerOrphans(std::vector<std::shared_ptr<SentCall>>& orphans) {
+void ThreadQueue::AnswerOrphans(std::vector<std::shared_ptr<SentCall>>& orphans)
+{
     for (auto& call : orphans) {
         call->sender->Complete(*call, 0);
     }
     orphans.clear();
 }
 
-void ThreadQueue::ForgetWindow(WindowRecord& window) {
+void ThreadQueue::ForgetWindow(WindowRecord& window)
+{
     std::vector<std::shared_ptr<SentCall>> orphans;
     {
         std::lock_guard<std::mutex> lock(mutex_);
@@ -319,7 +340,8 @@ void ThreadQueue::ForgetWindow(WindowRecord& window) {
     AnswerOrphans(orphans);
 }
 
-void ThreadQueue::Close(const std::vector<std::shared_ptr<WindowRecord>>& windows) {
+void ThreadQueue::Close(const std::vector<std::shared_ptr<WindowRecord>>& windows)
+{
     std::vector<std::shared_ptr<SentCall>> orphans;
     {
         std::lock_guard<std::mutex> lock(mutex_);
@@ -338,4 +360,4 @@ void ThreadQueue::Close(const std::vector<std::shared_ptr<WindowRecord>>& window
     AnswerOrphans(orphans);
 }
 
-}  // namespace toolkit_win32
+} // namespace toolkit_win32

@@ -23,39 +23,45 @@ namespace toolkit_win32 {
 
 class ThreadQueue;
 
-struct WindowRecord {
+struct WindowRecord
+{
     HWND handle = nullptr;
     std::shared_ptr<ThreadQueue> owner;
     WindowProcedure procedure;
-    bool alive = true;        // guarded by the owner's mutex
-    bool destroying = false;  // touched only on the owning thread
+    bool alive = true;       // guarded by the owner's mutex
+    bool destroying = false; // touched only on the owning thread
 };
 
 // One SendMessageW across threads, from the sender's wait to its answer.
-struct SentCall {
+struct SentCall
+{
     std::shared_ptr<WindowRecord> window;
     UINT message = 0;
     WPARAM wParam = 0;
     LPARAM lParam = 0;
     std::shared_ptr<ThreadQueue> sender;
-    LRESULT result = 0;  // guarded by the sender's mutex
-    bool done = false;   // guarded by the sender's mutex
+    LRESULT result = 0; // guarded by the sender's mutex
+    bool done = false;  // guarded by the sender's mutex
 };
 
-struct MessageFilter {
-    HWND window = nullptr;  // null: every window and the thread's own messages
+struct MessageFilter
+{
+    HWND window = nullptr; // null: every window and the thread's own messages
     UINT first = 0;
-    UINT last = 0;  // first = last = 0: every message
+    UINT last = 0; // first = last = 0: every message
 
-    bool TakesMessage(UINT message) const {
+    bool TakesMessage(UINT message) const
+    {
         return (first == 0 && last == 0) || (message >= first && message <= last);
     }
-    bool Takes(HWND hwnd, UINT message) const {
+    bool Takes(HWND hwnd, UINT message) const
+    {
         return (window == nullptr || window == hwnd) && TakesMessage(message);
     }
 };
 
-class ThreadQueue {
+class ThreadQueue
+{
 public:
     using Clock = std::chrono::steady_clock;
 
@@ -105,7 +111,8 @@ public:
     void Close(const std::vector<std::shared_ptr<WindowRecord>>& windows);
 
 private:
-    struct Timer {
+    struct Timer
+    {
         HWND window;
         UINT_PTR id;
         std::chrono::milliseconds interval;
@@ -133,7 +140,7 @@ private:
     // clears it and calls the wake hook, so each idle wait costs one wake.
     bool wakeArmed_ = false;
     std::shared_ptr<const std::function<void()>> wakeHook_;
-    std::function<void(DWORD)> waitHook_;  // owning thread only
+    std::function<void(DWORD)> waitHook_; // owning thread only
 };
 
-}  // namespace toolkit_win32
+} // namespace toolkit_win32

@@ -8,7 +8,8 @@
 using toolkit_win32::CurrentThreadQueue;
 using toolkit_win32::WindowRegistry;
 
-UINT_PTR SetTimer(HWND hWnd, UINT_PTR idEvent, UINT elapseMs, void* timerProc) {
+UINT_PTR SetTimer(HWND hWnd, UINT_PTR idEvent, UINT elapseMs, void* timerProc)
+{
     // Timer callbacks would run outside any window procedure; the module
     // never uses them, so they are refused rather than half supported.
     if (timerProc != nullptr) {
@@ -25,7 +26,8 @@ UINT_PTR SetTimer(HWND hWnd, UINT_PTR idEvent, UINT elapseMs, void* timerProc) {
     return idEvent != 0 ? idEvent : 1;
 }
 
-BOOL KillTimer(HWND hWnd, UINT_PTR idEvent) {
+BOOL KillTimer(HWND hWnd, UINT_PTR idEvent)
+{
     if (hWnd == nullptr) {
         return CurrentThreadQueue()->KillTimer(nullptr, idEvent) ? TRUE : FALSE;
     }

@@ -4,32 +4,37 @@
 
 namespace toolkit_win32 {
 
-WindowRegistry& WindowRegistry::Instance() {
+WindowRegistry& WindowRegistry::Instance()
+{
     // Never destroyed: threads still running while the process exits (load
     // threads are detached) may post to the end.
     static WindowRegistry* registry = new WindowRegistry;
     return *registry;
 }
 
-HWND WindowRegistry::AddWindow(const std::shared_ptr<WindowRecord>& window) {
+HWND WindowRegistry::AddWindow(const std::shared_ptr<WindowRecord>& window)
+{
     window->handle = reinterpret_cast<HWND>(NextHandleValue());
     std::lock_guard<std::mutex> lock(mutex_);
     windows_.emplace(window->handle, window);
     return window->handle;
 }
 
-std::shared_ptr<WindowRecord> WindowRegistry::FindWindowRecord(HWND hwnd) const {
+std::shared_ptr<WindowRecord> WindowRegistry::FindWindowRecord(HWND hwnd) const
+{
     std::lock_guard<std::mutex> lock(mutex_);
     auto found = windows_.find(hwnd);
     return found == windows_.end() ? nullptr : found->second;
 }
 
-void WindowRegistry::RemoveWindow(HWND hwnd) {
+void WindowRegistry::RemoveWindow(HWND hwnd)
+{
     std::lock_guard<std::mutex> lock(mutex_);
     windows_.erase(hwnd);
 }
 
-std::vector<std::shared_ptr<WindowRecord>> WindowRegistry::RemoveWindowsOf(const ThreadQueue& owner) {
+std::vector<std::shared_ptr<WindowRecord>> WindowRegistry::RemoveWindowsOf(const ThreadQueue& owner)
+{
     std::vector<std::shared_ptr<WindowRecord>> removed;
     std::lock_guard<std::mutex> lock(mutex_);
     for (auto entry = windows_.begin(); entry != windows_.end();) {
@@ -43,18 +48,21 @@ std::vector<std::shared_ptr<WindowRecord>> WindowRegistry::RemoveWindowsOf(const
     return removed;
 }
 
-void WindowRegistry::AddThread(const std::shared_ptr<ThreadQueue>& queue) {
+void WindowRegistry::AddThread(const std::shared_ptr<ThreadQueue>& queue)
+{
     std::lock_guard<std::mutex> lock(mutex_);
     threads_[queue->ThreadId()] = queue;
 }
 
-std::shared_ptr<ThreadQueue> WindowRegistry::FindThread(DWORD threadId) const {
+std::shared_ptr<ThreadQueue> WindowRegistry::FindThread(DWORD threadId) const
+{
     std::lock_guard<std::mutex> lock(mutex_);
     auto found = threads_.find(threadId);
     return found == threads_.end() ? nullptr : found->second;
 }
 
-void WindowRegistry::RemoveThread(DWORD threadId) {
+void WindowRegistry::RemoveThread(DWORD threadId)
+{
     std::lock_guard<std::mutex> lock(mutex_);
     threads_.erase(threadId);
 }
@@ -64,15 +72,18 @@ namespace {
 // Owns the calling thread's queue and closes it when the thread ends, so
 // that senders waiting on the thread's windows get their 0 instead of
 // hanging, and a later thread with a recycled id starts afresh.
-class CurrentQueueHolder {
+class CurrentQueueHolder
+{
 public:
-    CurrentQueueHolder() : queue_(std::make_shared<ThreadQueue>(GetCurrentThreadId())) {
+    CurrentQueueHolder() : queue_(std::make_shared<ThreadQueue>(GetCurrentThreadId()))
+    {
         WindowRegistry::Instance().AddThread(queue_);
     }
     CurrentQueueHolder(const CurrentQueueHolder&) = delete;
     CurrentQueueHolder& operator=(const CurrentQueueHolder&) = delete;
 
-    ~CurrentQueueHolder() {
+    ~CurrentQueueHolder()
+    {
         auto& registry = WindowRegistry::Instance();
         registry.RemoveThread(queue_->ThreadId());
         queue_->Close(registry.RemoveWindowsOf(*queue_));
@@ -84,11 +95,12 @@ private:
     std::shared_ptr<ThreadQueue> queue_;
 };
 
-}  // namespace
+} // namespace
 
-const std::shared_ptr<ThreadQueue>& CurrentThreadQueue() {
+const std::shared_ptr<ThreadQueue>& CurrentThreadQueue()
+{
     thread_local CurrentQueueHolder holder;
     return holder.Queue();
 }
 
-}  // namespace toolkit_win32
+} // namespace toolkit_win32

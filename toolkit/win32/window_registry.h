@@ -12,7 +12,8 @@
 
 namespace toolkit_win32 {
 
-class WindowRegistry {
+class WindowRegistry
+{
 public:
     static WindowRegistry& Instance();
 
@@ -38,4 +39,4 @@ private:
 // windows go and the queue is closed (see ThreadQueue::Close).
 const std::shared_ptr<ThreadQueue>& CurrentThreadQueue();
 
-}  // namespace toolkit_win32
+} // namespace toolkit_win32

@@ -37,7 +37,8 @@ bool StartSdlVideo()
         SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
         SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
         started = SDL_InitSubSystem(SDL_INIT_VIDEO) == 0;
-        if (started) g_wakeEvent = SDL_RegisterEvents(1);
+        if (started)
+            g_wakeEvent = SDL_RegisterEvents(1);
     });
     return started;
 }
@@ -52,26 +53,42 @@ HWND WindowFor(Uint32 windowId)
 UINT VirtualKey(SDL_Keycode key)
 {
     switch (key) {
-    case SDLK_TAB: return VK_TAB;
+    case SDLK_TAB:
+        return VK_TAB;
     case SDLK_RETURN:
-    case SDLK_KP_ENTER: return VK_RETURN;
-    case SDLK_ESCAPE: return VK_ESCAPE;
-    case SDLK_SPACE: return VK_SPACE;
-    case SDLK_UP: return VK_UP;
-    case SDLK_DOWN: return VK_DOWN;
-    case SDLK_LEFT: return VK_LEFT;
-    case SDLK_RIGHT: return VK_RIGHT;
-    case SDLK_PAGEUP: return VK_PRIOR;
-    case SDLK_PAGEDOWN: return VK_NEXT;
-    case SDLK_HOME: return VK_HOME;
-    case SDLK_END: return VK_END;
-    case SDLK_BACKSPACE: return VK_BACK;
-    case SDLK_DELETE: return VK_DELETE;
-    default: return 0;
+    case SDLK_KP_ENTER:
+        return VK_RETURN;
+    case SDLK_ESCAPE:
+        return VK_ESCAPE;
+    case SDLK_SPACE:
+        return VK_SPACE;
+    case SDLK_UP:
+        return VK_UP;
+    case SDLK_DOWN:
+        return VK_DOWN;
+    case SDLK_LEFT:
+        return VK_LEFT;
+    case SDLK_RIGHT:
+        return VK_RIGHT;
+    case SDLK_PAGEUP:
+        return VK_PRIOR;
+    case SDLK_PAGEDOWN:
+        return VK_NEXT;
+    case SDLK_HOME:
+        return VK_HOME;
+    case SDLK_END:
+        return VK_END;
+    case SDLK_BACKSPACE:
+        return VK_BACK;
+    case SDLK_DELETE:
+        return VK_DELETE;
+    default:
+        return 0;
     }
 }
 
-struct PointerState {
+struct PointerState
+{
     int x = 0;
     int y = 0;
 };
@@ -93,7 +110,8 @@ void Translate(const SDL_Event& ev)
         break;
     case SDL_MOUSEBUTTONDOWN:
     case SDL_MOUSEBUTTONUP:
-        if (ev.button.button != SDL_BUTTON_LEFT) break;
+        if (ev.button.button != SDL_BUTTON_LEFT)
+            break;
         if (HWND hwnd = WindowFor(ev.button.windowID)) {
             Pointers()[ev.button.windowID] = PointerState{ev.button.x, ev.button.y};
             const UINT msg = ev.type == SDL_MOUSEBUTTONDOWN ? WM_LBUTTONDOWN : WM_LBUTTONUP;
@@ -113,16 +131,24 @@ void Translate(const SDL_Event& ev)
             const UINT vk = VirtualKey(ev.key.keysym.sym);
             // Bit 0 of lParam carries Shift, for Shift+Tab.
             const LPARAM shift = (ev.key.keysym.mod & KMOD_SHIFT) ? 1 : 0;
-            if (vk != 0) ::PostMessageW(hwnd, WM_KEYDOWN, vk, shift);
+            if (vk != 0)
+                ::PostMessageW(hwnd, WM_KEYDOWN, vk, shift);
         }
         break;
     case SDL_WINDOWEVENT:
         if (HWND hwnd = WindowFor(ev.window.windowID)) {
             switch (ev.window.event) {
-            case SDL_WINDOWEVENT_CLOSE: ::PostMessageW(hwnd, WM_CLOSE, 0, 0); break;
-            case SDL_WINDOWEVENT_EXPOSED: ::PostMessageW(hwnd, WM_PAINT, 0, 0); break;
-            case SDL_WINDOWEVENT_LEAVE: ::PostMessageW(hwnd, WM_MOUSELEAVE, 0, 0); break;
-            default: break;
+            case SDL_WINDOWEVENT_CLOSE:
+                ::PostMessageW(hwnd, WM_CLOSE, 0, 0);
+                break;
+            case SDL_WINDOWEVENT_EXPOSED:
+                ::PostMessageW(hwnd, WM_PAINT, 0, 0);
+                break;
+            case SDL_WINDOWEVENT_LEAVE:
+                ::PostMessageW(hwnd, WM_MOUSELEAVE, 0, 0);
+                break;
+            default:
+                break;
             }
         }
         break;
@@ -156,12 +182,14 @@ void WakeSdl()
 void InstallEventSourceOnThisThread()
 {
     thread_local bool installed = false;
-    if (installed) return;
+    if (installed)
+        return;
     installed = true;
     SetThreadEventSource(ExternalEventSource{WaitForSdl, WakeSdl});
 }
 
-class SdlSurface : public NativeSurface {
+class SdlSurface : public NativeSurface
+{
 public:
     SdlSurface(HWND hwnd, SDL_Window* window, SDL_Renderer* renderer)
         : m_hwnd(hwnd), m_window(window), m_renderer(renderer)
@@ -176,19 +204,23 @@ public:
             std::lock_guard<std::mutex> lock(g_windowsMutex);
             SdlWindows().erase(SDL_GetWindowID(m_window));
         }
-        if (m_canvas) cairo_surface_destroy(m_canvas);
-        if (m_texture) SDL_DestroyTexture(m_texture);
+        if (m_canvas)
+            cairo_surface_destroy(m_canvas);
+        if (m_texture)
+            SDL_DestroyTexture(m_texture);
         SDL_DestroyRenderer(m_renderer);
         SDL_DestroyWindow(m_window);
     }
 
     cairo_t* BeginPaint(int width, int height) override
     {
-        if (width <= 0 || height <= 0) return nullptr;
+        if (width <= 0 || height <= 0)
+            return nullptr;
         bool remade = false;
         cairo_t* cr = BeginCanvasFrame(m_canvas, width, height, &remade);
         if (remade) {
-            if (m_texture) SDL_DestroyTexture(m_texture);
+            if (m_texture)
+                SDL_DestroyTexture(m_texture);
             m_texture = SDL_CreateTexture(m_renderer, SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
                                           width, height);
             SDL_SetTextureBlendMode(m_texture, SDL_BLENDMODE_BLEND);
@@ -200,7 +232,8 @@ public:
     {
         cairo_destroy(cr);
         cairo_surface_flush(m_canvas);
-        if (m_texture == nullptr) return;
+        if (m_texture == nullptr)
+            return;
         SDL_UpdateTexture(m_texture, nullptr, cairo_image_surface_get_data(m_canvas),
                           cairo_image_surface_get_stride(m_canvas));
         SDL_SetRenderDrawColor(m_renderer, 255, 255, 255, 255);
@@ -211,7 +244,8 @@ public:
 
     void SetGeometry(const RECT& rect) override
     {
-        SDL_SetWindowSize(m_window, std::max<int>(1, rect.right - rect.left), std::max<int>(1, rect.bottom - rect.top));
+        SDL_SetWindowSize(m_window, std::max<int>(1, rect.right - rect.left),
+                          std::max<int>(1, rect.bottom - rect.top));
         SDL_SetWindowPosition(m_window, rect.left, rect.top);
     }
 
@@ -252,15 +286,19 @@ private:
     bool m_shown = false;
 };
 
-}  // namespace
+} // namespace
 
 std::unique_ptr<NativeSurface> CreateSdlSurface(HWND hWnd)
 {
-    if (!StartSdlVideo()) return nullptr;
-    SDL_Window* window = SDL_CreateWindow("", SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED, 1, 1, SDL_WINDOW_HIDDEN);
-    if (window == nullptr) return nullptr;
+    if (!StartSdlVideo())
+        return nullptr;
+    SDL_Window* window =
+        SDL_CreateWindow("", SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED, 1, 1, SDL_WINDOW_HIDDEN);
+    if (window == nullptr)
+        return nullptr;
     SDL_Renderer* renderer = SDL_CreateRenderer(window, -1, 0);
-    if (renderer == nullptr) renderer = SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE);
+    if (renderer == nullptr)
+        renderer = SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE);
     if (renderer == nullptr) {
         SDL_DestroyWindow(window);
         return nullptr;
@@ -269,4 +307,4 @@ std::unique_ptr<NativeSurface> CreateSdlSurface(HWND hWnd)
     return std::make_unique<SdlSurface>(hWnd, window, renderer);
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

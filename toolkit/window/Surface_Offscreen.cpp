@@ -13,16 +13,19 @@ namespace {
 // The virtual screen offscreen windows are centred on.
 constexpr SIZE kOffscreenScreen{1920, 1080};
 
-class OffscreenSurface : public NativeSurface {
+class OffscreenSurface : public NativeSurface
+{
 public:
     ~OffscreenSurface() override
     {
-        if (m_canvas) cairo_surface_destroy(m_canvas);
+        if (m_canvas)
+            cairo_surface_destroy(m_canvas);
     }
 
     cairo_t* BeginPaint(int width, int height) override
     {
-        if (width <= 0 || height <= 0) return nullptr;
+        if (width <= 0 || height <= 0)
+            return nullptr;
         return BeginCanvasFrame(m_canvas, width, height);
     }
 
@@ -44,11 +47,11 @@ private:
     bool m_shown = false;
 };
 
-}  // namespace
+} // namespace
 
 std::unique_ptr<NativeSurface> CreateOffscreenSurface()
 {
     return std::make_unique<OffscreenSurface>();
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -14,4 +14,4 @@ namespace DuiLib {
 // keeps per size (a texture) can follow.
 cairo_t* BeginCanvasFrame(cairo_surface_t*& canvas, int width, int height, bool* remade = nullptr);
 
-}  // namespace DuiLib
+} // namespace DuiLib

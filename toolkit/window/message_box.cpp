@@ -30,7 +30,8 @@ constexpr const wchar_t* kMessageBoxSkin = LR"(<Window size="420,200" roundcorne
 
 thread_local HWND t_activeBox = nullptr;
 
-class MessageBoxWnd : public WindowImplBaseEx {
+class MessageBoxWnd : public WindowImplBaseEx
+{
 public:
     MessageBoxWnd(LPCTSTR title, LPCTSTR detail, LPCTSTR first, LPCTSTR second, int buttons, LPCTSTR icon,
                   bool escapeCancels, bool showClose)
@@ -50,22 +51,29 @@ protected:
         Set(L"mb_detail", m_detail);
         Set(L"mb_first", m_first);
         Set(L"mb_second", m_second);
-        if (CControlUI* second = m_pm.FindControl(L"mb_second")) second->SetVisible(m_buttons >= 2);
-        if (CControlUI* close = m_pm.FindControl(L"mb_close")) close->SetVisible(m_showClose);
+        if (CControlUI* second = m_pm.FindControl(L"mb_second"))
+            second->SetVisible(m_buttons >= 2);
+        if (CControlUI* close = m_pm.FindControl(L"mb_close"))
+            close->SetVisible(m_showClose);
         if (CControlUI* icon = m_pm.FindControl(L"mb_icon"); icon != nullptr && !m_icon.IsEmpty()) {
             icon->SetBkImage(m_icon);
             icon->SetVisible(true);
         }
-        if (CControlUI* first = m_pm.FindControl(L"mb_first")) m_pm.SetFocus(first);
+        if (CControlUI* first = m_pm.FindControl(L"mb_first"))
+            m_pm.SetFocus(first);
     }
 
     void Notify(TNotifyUI& msg) override
     {
-        if (msg.sType != DUI_MSGTYPE_CLICK || msg.pSender == nullptr) return;
+        if (msg.sType != DUI_MSGTYPE_CLICK || msg.pSender == nullptr)
+            return;
         const CDuiString name = msg.pSender->GetName();
-        if (name == L"mb_first") Close(1);
-        else if (name == L"mb_second") Close(2);
-        else if (name == L"mb_close") Close(0);
+        if (name == L"mb_first")
+            Close(1);
+        else if (name == L"mb_second")
+            Close(2);
+        else if (name == L"mb_close")
+            Close(0);
     }
 
     LRESULT HandleCustomMessage(UINT uMsg, WPARAM wParam, LPARAM, BOOL& bHandled) override
@@ -81,13 +89,15 @@ protected:
     void OnFinalMessage(HWND hWnd) override
     {
         WindowImplBaseEx::OnFinalMessage(hWnd);
-        if (t_activeBox == hWnd) t_activeBox = nullptr;
+        if (t_activeBox == hWnd)
+            t_activeBox = nullptr;
     }
 
 private:
     void Set(LPCTSTR name, const CDuiString& text)
     {
-        if (CControlUI* control = m_pm.FindControl(name)) control->SetText(text);
+        if (CControlUI* control = m_pm.FindControl(name))
+            control->SetText(text);
     }
 
     CDuiString m_title;
@@ -100,7 +110,7 @@ private:
     bool m_showClose;
 };
 
-}  // namespace
+} // namespace
 
 int UIIMessageBox::PopMessageBox(HWND hParent, LPCTSTR title, LPCTSTR detail, LPCTSTR firstButton,
                                  LPCTSTR secondButton, int buttonCount, LPCTSTR icon, bool centerOnParent,
@@ -108,7 +118,8 @@ int UIIMessageBox::PopMessageBox(HWND hParent, LPCTSTR title, LPCTSTR detail, LP
 {
     MessageBoxWnd box(title, detail, firstButton, secondButton, buttonCount, icon, escapeCancels, showClose);
     const HWND hwnd = box.Create(centerOnParent ? hParent : nullptr, L"UIIMessageBox", 0, 0, 0, 0, 0, 0);
-    if (hwnd == nullptr) return 0;
+    if (hwnd == nullptr)
+        return 0;
     const HWND outer = t_activeBox;
     t_activeBox = hwnd;
     box.CenterWindow();
@@ -122,4 +133,4 @@ HWND UIIMessageBox::GetActiveBox()
     return t_activeBox;
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

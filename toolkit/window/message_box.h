@@ -12,7 +12,8 @@
 
 namespace DuiLib {
 
-class UIIMessageBox {
+class UIIMessageBox
+{
 public:
     // buttonCount: 1 shows only the first button, 2 both.
     // icon: an image path relative to the skin folder, or null for none.
@@ -28,4 +29,4 @@ public:
     static HWND GetActiveBox();
 };
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -14,7 +14,11 @@ typedef struct _cairo_surface cairo_surface_t;
 
 namespace DuiLib {
 
-enum class SurfaceKind { Offscreen, Sdl };
+enum class SurfaceKind
+{
+    Offscreen,
+    Sdl
+};
 
 // The kind new windows get: set explicitly, or from SPACEMGM_TOOLKIT_BACKEND
 // ("offscreen" / "sdl"), or SDL when DISPLAY or WAYLAND_DISPLAY is set and
@@ -22,7 +26,8 @@ enum class SurfaceKind { Offscreen, Sdl };
 void SetDefaultSurfaceKind(SurfaceKind kind);
 SurfaceKind DefaultSurfaceKind();
 
-class NativeSurface : public PaintTarget {
+class NativeSurface : public PaintTarget
+{
 public:
     // Position and size of the window on the screen.
     virtual void SetGeometry(const RECT& rect) = 0;
@@ -44,4 +49,4 @@ std::unique_ptr<NativeSurface> CreateOffscreenSurface();
 // SDL surfaces: null when SDL video is not available.
 std::unique_ptr<NativeSurface> CreateSdlSurface(HWND hWnd);
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -14,15 +14,17 @@ std::atomic<int> g_kind{-1};
 SurfaceKind FromEnvironment()
 {
     const char* backend = std::getenv("SPACEMGM_TOOLKIT_BACKEND");
-    if (backend != nullptr && std::strcmp(backend, "offscreen") == 0) return SurfaceKind::Offscreen;
-    if (backend != nullptr && std::strcmp(backend, "sdl") == 0) return SurfaceKind::Sdl;
+    if (backend != nullptr && std::strcmp(backend, "offscreen") == 0)
+        return SurfaceKind::Offscreen;
+    if (backend != nullptr && std::strcmp(backend, "sdl") == 0)
+        return SurfaceKind::Sdl;
     const char* display = std::getenv("DISPLAY");
     const char* wayland = std::getenv("WAYLAND_DISPLAY");
     const bool hasDisplay = (display != nullptr && *display != 0) || (wayland != nullptr && *wayland != 0);
     return hasDisplay ? SurfaceKind::Sdl : SurfaceKind::Offscreen;
 }
 
-}  // namespace
+} // namespace
 
 void SetDefaultSurfaceKind(SurfaceKind kind)
 {
@@ -38,9 +40,10 @@ SurfaceKind DefaultSurfaceKind()
 std::unique_ptr<NativeSurface> CreateNativeSurface(HWND hWnd, SurfaceKind kind)
 {
     if (kind == SurfaceKind::Sdl) {
-        if (auto surface = CreateSdlSurface(hWnd)) return surface;
+        if (auto surface = CreateSdlSurface(hWnd))
+            return surface;
     }
     return CreateOffscreenSurface();
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

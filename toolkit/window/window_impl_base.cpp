@@ -1,8 +1,8 @@
 #include "toolkit/window/window_impl_base.h"
 
 #include "toolkit/core/resource_manager.h"
-#include "toolkit/window/native_surface.h"
 #include "toolkit/win32/message_queue.h"
+#include "toolkit/window/native_surface.h"
 
 namespace DuiLib {
 
@@ -64,7 +64,8 @@ LRESULT WindowImplBase::OnCreate(UINT, WPARAM, LPARAM, BOOL&)
     m_pm.SetDPI(InitialDPI());
     m_pm.AddPreMessageFilter(this);
     const CDuiString folder = GetSkinFolder();
-    if (!folder.IsEmpty()) CPaintManagerUI::SetResourcePath(CPaintManagerUI::GetInstancePath() + folder);
+    if (!folder.IsEmpty())
+        CPaintManagerUI::SetResourcePath(CPaintManagerUI::GetInstancePath() + folder);
 
     CDialogBuilder builder;
     CControlUI* root = builder.Create(GetSkinFile().GetData(), nullptr, this, &m_pm);
@@ -74,7 +75,8 @@ LRESULT WindowImplBase::OnCreate(UINT, WPARAM, LPARAM, BOOL&)
     }
     m_pm.AttachDialog(root);
     m_pm.AddNotifier(this);
-    if (auto* surface = GetSurface()) m_pm.SetPaintTarget(surface);
+    if (auto* surface = GetSurface())
+        m_pm.SetPaintTarget(surface);
 
     const SIZE size = m_pm.GetInitSize();
     const CDPI* dpi = m_pm.GetDPIObj();
@@ -108,15 +110,26 @@ LRESULT WindowImplBase::HandleMessage(UINT uMsg, WPARAM wParam, LPARAM lParam)
     LRESULT lRes = 0;
     BOOL bHandled = TRUE;
     switch (uMsg) {
-    case WM_CREATE: lRes = OnCreate(uMsg, wParam, lParam, bHandled); break;
-    case WM_CLOSE: lRes = OnClose(uMsg, wParam, lParam, bHandled); break;
-    case WM_DESTROY: lRes = OnDestroy(uMsg, wParam, lParam, bHandled); break;
-    default: bHandled = FALSE; break;
+    case WM_CREATE:
+        lRes = OnCreate(uMsg, wParam, lParam, bHandled);
+        break;
+    case WM_CLOSE:
+        lRes = OnClose(uMsg, wParam, lParam, bHandled);
+        break;
+    case WM_DESTROY:
+        lRes = OnDestroy(uMsg, wParam, lParam, bHandled);
+        break;
+    default:
+        bHandled = FALSE;
+        break;
     }
-    if (bHandled) return lRes;
+    if (bHandled)
+        return lRes;
     lRes = HandleCustomMessage(uMsg, wParam, lParam, bHandled);
-    if (bHandled) return lRes;
-    if (m_pm.MessageHandler(uMsg, wParam, lParam, lRes)) return lRes;
+    if (bHandled)
+        return lRes;
+    if (m_pm.MessageHandler(uMsg, wParam, lParam, lRes))
+        return lRes;
     return CWindowWnd::HandleMessage(uMsg, wParam, lParam);
 }
 
@@ -125,4 +138,4 @@ int WindowImplBaseEx::InitialDPI() const
     return CDPI::GetProcessDPI();
 }
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -19,7 +19,8 @@ class WindowImplBase : public CWindowWnd,
                        public INotifyUI,
                        public IMessageFilterUI,
                        public IDialogBuilderCallback,
-                       public IQueryControlText {
+                       public IQueryControlText
+{
 public:
     WindowImplBase();
     ~WindowImplBase() override;
@@ -64,9 +65,10 @@ private:
     std::optional<SkinError> m_skinError;
 };
 
-class WindowImplBaseEx : public WindowImplBase {
+class WindowImplBaseEx : public WindowImplBase
+{
 protected:
     int InitialDPI() const override;
 };
 
-}  // namespace DuiLib
+} // namespace DuiLib

@@ -25,10 +25,11 @@ bool IsInputMessage(UINT msg)
     return (msg >= WM_MOUSEMOVE && msg <= WM_MOUSEWHEEL) || (msg >= WM_KEYDOWN && msg <= WM_SYSKEYUP);
 }
 
-}  // namespace
+} // namespace
 
 // What ShowModal needs to know after the window object may be gone.
-struct CWindowWnd::ModalState {
+struct CWindowWnd::ModalState
+{
     UINT closeCode = 0;
 };
 
@@ -36,7 +37,8 @@ CWindowWnd::CWindowWnd() : m_modal(std::make_shared<ModalState>()) {}
 
 CWindowWnd::~CWindowWnd()
 {
-    if (m_hWnd != nullptr) ThreadWindows().erase(m_hWnd);
+    if (m_hWnd != nullptr)
+        ThreadWindows().erase(m_hWnd);
 }
 
 CWindowWnd* CWindowWnd::FromHandle(HWND hWnd)
@@ -59,8 +61,8 @@ HWND CWindowWnd::Create(HWND hwndParent, LPCTSTR pstrName, DWORD, DWORD, int x, 
     m_rcWindow = RECT{x == CW_USEDEFAULT ? 0 : x, y == CW_USEDEFAULT ? 0 : y, 0, 0};
     m_rcWindow.right = m_rcWindow.left + (cx == CW_USEDEFAULT ? 0 : cx);
     m_rcWindow.bottom = m_rcWindow.top + (cy == CW_USEDEFAULT ? 0 : cy);
-    const HWND hwnd = CreateWindowHandle(
-        [this](HWND h, UINT msg, WPARAM w, LPARAM l) { return Dispatch(h, msg, w, l); });
+    const HWND hwnd =
+        CreateWindowHandle([this](HWND h, UINT msg, WPARAM w, LPARAM l) { return Dispatch(h, msg, w, l); });
     return hwnd;
 }
 
@@ -109,7 +111,8 @@ void CWindowWnd::SetGeometry(const RECT& rc)
     const bool resized = (rc.right - rc.left) != (m_rcWindow.right - m_rcWindow.left) ||
                          (rc.bottom - rc.top) != (m_rcWindow.bottom - m_rcWindow.top);
     m_rcWindow = rc;
-    if (m_surface) m_surface->SetGeometry(rc);
+    if (m_surface)
+        m_surface->SetGeometry(rc);
     if (resized && m_hWnd != nullptr) {
         HandleMessage(WM_SIZE, 0, MAKELPARAM(rc.right - rc.left, rc.bottom - rc.top));
     }
@@ -118,8 +121,10 @@ void CWindowWnd::SetGeometry(const RECT& rc)
 
 void CWindowWnd::ShowWindow(bool bShow, bool)
 {
-    if (m_surface) m_surface->Show(bShow);
-    if (bShow && m_hWnd != nullptr) ::PostMessageW(m_hWnd, WM_PAINT, 0, 0);
+    if (m_surface)
+        m_surface->Show(bShow);
+    if (bShow && m_hWnd != nullptr)
+        ::PostMessageW(m_hWnd, WM_PAINT, 0, 0);
 }
 
 bool CWindowWnd::IsShown() const
@@ -130,7 +135,8 @@ bool CWindowWnd::IsShown() const
 UINT CWindowWnd::ShowModal()
 {
     const HWND hwnd = m_hWnd;
-    if (hwnd == nullptr) return 0;
+    if (hwnd == nullptr)
+        return 0;
     // Keep the state: the window object may delete itself in OnFinalMessage.
     const std::shared_ptr<ModalState> state = m_modal;
     const HWND owner = m_hWndParent;
@@ -145,24 +151,29 @@ UINT CWindowWnd::ShowModal()
             quitCode = msg.wParam;
             break;
         }
-        if (got < 0) break;
+        if (got < 0)
+            break;
         // The owner is disabled while its modal child runs, as on Windows.
-        if (IsInputMessage(msg.message) && msg.hwnd != hwnd && msg.hwnd != nullptr && msg.hwnd == owner) continue;
+        if (IsInputMessage(msg.message) && msg.hwnd != hwnd && msg.hwnd != nullptr && msg.hwnd == owner)
+            continue;
         ::TranslateMessage(&msg);
         ::DispatchMessageW(&msg);
     }
-    if (quit) ::PostQuitMessage(static_cast<int>(quitCode));
+    if (quit)
+        ::PostQuitMessage(static_cast<int>(quitCode));
     return state->closeCode;
 }
 
 void CWindowWnd::Close(UINT nRet)
 {
-    if (m_hWnd != nullptr) ::PostMessageW(m_hWnd, WM_CLOSE, static_cast<WPARAM>(nRet), 0);
+    if (m_hWnd != nullptr)
+        ::PostMessageW(m_hWnd, WM_CLOSE, static_cast<WPARAM>(nRet), 0);
 }
 
 void CWindowWnd::CenterWindow()
 {
-    if (m_hWnd == nullptr) return;
+    if (m_hWnd == nullptr)
+        return;
     const int width = m_rcWindow.right - m_rcWindow.left;
     const int height = m_rcWindow.bottom - m_rcWindow.top;
     RECT area{0, 0, 0, 0};
@@ -171,7 +182,8 @@ void CWindowWnd::CenterWindow()
         area = RECT{0, 0, screen.cx, screen.cy};
     }
     if (CWindowWnd* parent = FromHandle(m_hWndParent)) {
-        if (parent->IsShown()) area = parent->GetWindowRect();
+        if (parent->IsShown())
+            area = parent->GetWindowRect();
     }
     const int x = area.left + ((area.right - area.left) - width) / 2;
     const int y = area.top + ((area.bottom - area.top) - height) / 2;
@@ -181,8 +193,10 @@ void CWindowWnd::CenterWindow()
 void CWindowWnd::ResizeClient(int cx, int cy)
 {
     RECT rc = m_rcWindow;
-    if (cx >= 0) rc.right = rc.left + cx;
-    if (cy >= 0) rc.bottom = rc.top + cy;
+    if (cx >= 0)
+        rc.right = rc.left + cx;
+    if (cy >= 0)
+        rc.bottom = rc.top + cy;
     SetGeometry(rc);
 }
 
@@ -198,29 +212,36 @@ LRESULT CWindowWnd::PostMessage(UINT uMsg, WPARAM wParam, LPARAM lParam)
 
 LRESULT CWindowWnd::HandleMessage(UINT uMsg, WPARAM, LPARAM)
 {
-    if (uMsg == WM_CLOSE && m_hWnd != nullptr) ::DestroyWindow(m_hWnd);
+    if (uMsg == WM_CLOSE && m_hWnd != nullptr)
+        ::DestroyWindow(m_hWnd);
     return 0;
 }
 
 void CWindowWnd::OnFinalMessage(HWND) {}
 
-}  // namespace DuiLib
+} // namespace DuiLib
 
 BOOL MoveWindow(HWND hWnd, int x, int y, int width, int height, BOOL)
 {
-    if (!::IsWindow(hWnd)) return FALSE;
+    if (!::IsWindow(hWnd))
+        return FALSE;
     RECT rc{x, y, x + width, y + height};
-    return ::SendMessageW(hWnd, DuiLib::UIMSG_MOVEWINDOW, 0, reinterpret_cast<LPARAM>(&rc)) != 0 ? TRUE : FALSE;
+    return ::SendMessageW(hWnd, DuiLib::UIMSG_MOVEWINDOW, 0, reinterpret_cast<LPARAM>(&rc)) != 0 ? TRUE
+                                                                                                 : FALSE;
 }
 
 BOOL GetClientRect(HWND hWnd, RECT* rect)
 {
-    if (rect == nullptr || !::IsWindow(hWnd)) return FALSE;
-    return ::SendMessageW(hWnd, DuiLib::UIMSG_GETCLIENTRECT, 0, reinterpret_cast<LPARAM>(rect)) != 0 ? TRUE : FALSE;
+    if (rect == nullptr || !::IsWindow(hWnd))
+        return FALSE;
+    return ::SendMessageW(hWnd, DuiLib::UIMSG_GETCLIENTRECT, 0, reinterpret_cast<LPARAM>(rect)) != 0 ? TRUE
+                                                                                                     : FALSE;
 }
 
 BOOL GetWindowRect(HWND hWnd, RECT* rect)
 {
-    if (rect == nullptr || !::IsWindow(hWnd)) return FALSE;
-    return ::SendMessageW(hWnd, DuiLib::UIMSG_GETWINDOWRECT, 0, reinterpret_cast<LPARAM>(rect)) != 0 ? TRUE : FALSE;
+    if (rect == nullptr || !::IsWindow(hWnd))
+        return FALSE;
+    return ::SendMessageW(hWnd, DuiLib::UIMSG_GETWINDOWRECT, 0, reinterpret_cast<LPARAM>(rect)) != 0 ? TRUE
+                                                                                                     : FALSE;
 }

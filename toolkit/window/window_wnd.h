@@ -23,7 +23,8 @@ constexpr int CW_USEDEFAULT = static_cast<int>(0x80000000);
 constexpr UINT IDOK = 1;
 constexpr UINT IDCANCEL = 2;
 
-class CWindowWnd {
+class CWindowWnd
+{
 public:
     CWindowWnd();
     virtual ~CWindowWnd();
@@ -31,7 +32,7 @@ public:
     CWindowWnd& operator=(const CWindowWnd&) = delete;
 
     HWND GetHWND() const { return m_hWnd; }
-    operator HWND() const { return m_hWnd; }  // NOLINT: as DuiLib
+    operator HWND() const { return m_hWnd; } // NOLINT: as DuiLib
 
     // Makes the window on the calling thread; it is hidden until ShowWindow
     // or ShowModal. Styles are accepted for compatibility and not used.
@@ -84,4 +85,4 @@ private:
     CDuiString m_sTitle;
 };
 
-}  // namespace DuiLib
+} // namespace DuiLib

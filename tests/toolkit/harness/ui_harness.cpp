@@ -15,7 +15,8 @@ SkinWindow::SkinWindow(std::wstring skin, std::wstring folder) : m_skin(skin), m
 int SkinWindow::CountNotify(const std::wstring& type) const
 {
     int count = 0;
-    for (const auto& seen : notifications) count += seen.type == type ? 1 : 0;
+    for (const auto& seen : notifications)
+        count += seen.type == type ? 1 : 0;
     return count;
 }
 
@@ -28,7 +29,8 @@ void SkinWindow::Notify(TNotifyUI& msg)
 {
     notifications.push_back(SeenNotify{msg.sType.str(), msg.pSender ? msg.pSender->GetName().str() : L"",
                                        msg.wParam, msg.lParam, msg.sVirtualWnd.str()});
-    if (onNotify) onNotify(msg);
+    if (onNotify)
+        onNotify(msg);
     WindowImplBaseEx::Notify(msg);
 }
 
@@ -37,7 +39,8 @@ LRESULT SkinWindow::HandleMessage(UINT uMsg, WPARAM wParam, LPARAM lParam)
     if (onMessage) {
         bool handled = false;
         const LRESULT result = onMessage(uMsg, wParam, lParam, handled);
-        if (handled) return result;
+        if (handled)
+            return result;
     }
     return WindowImplBaseEx::HandleMessage(uMsg, wParam, lParam);
 }
@@ -56,7 +59,8 @@ void UseOffscreenToolkit()
 
 bool Open(SkinWindow& window, HWND parent)
 {
-    if (window.Create(parent, L"test", 0, 0, 0, 0, 0, 0) == nullptr) return false;
+    if (window.Create(parent, L"test", 0, 0, 0, 0, 0, 0) == nullptr)
+        return false;
     window.ShowWindow(true);
     PumpPending();
     return true;
@@ -83,7 +87,8 @@ bool PumpUntil(const std::function<bool()>& done, int timeoutMs)
 {
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeoutMs);
     while (!done()) {
-        if (std::chrono::steady_clock::now() >= deadline) return false;
+        if (std::chrono::steady_clock::now() >= deadline)
+            return false;
         MSG msg{};
         if (::PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
             ::DispatchMessageW(&msg);
@@ -113,7 +118,8 @@ bool Click(CPaintManagerUI& pm, const wchar_t* name)
 {
     pm.UpdateLayoutIfNeeded();
     CControlUI* control = pm.FindControl(name);
-    if (control == nullptr || !control->IsVisible()) return false;
+    if (control == nullptr || !control->IsVisible())
+        return false;
     return ClickAt(pm.GetPaintWindow(), CentreOf(pm, control));
 }
 
@@ -129,7 +135,8 @@ void PressKey(HWND hwnd, UINT vk, bool shift)
 
 void Wheel(HWND hwnd, POINT p, int notches)
 {
-    ::SendMessageW(hwnd, WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(static_cast<short>(notches * WHEEL_DELTA))),
+    ::SendMessageW(hwnd, WM_MOUSEWHEEL,
+                   MAKEWPARAM(0, static_cast<WORD>(static_cast<short>(notches * WHEEL_DELTA))),
                    MAKELPARAM(p.x, p.y));
 }
 
@@ -151,18 +158,26 @@ Snapshot::~Snapshot()
     cairo_surface_destroy(m_surface);
 }
 
-int Snapshot::width() const { return cairo_image_surface_get_width(m_surface); }
+int Snapshot::width() const
+{
+    return cairo_image_surface_get_width(m_surface);
+}
 
-int Snapshot::height() const { return cairo_image_surface_get_height(m_surface); }
+int Snapshot::height() const
+{
+    return cairo_image_surface_get_height(m_surface);
+}
 
 std::uint32_t Snapshot::Pixel(int x, int y) const
 {
-    if (x < 0 || y < 0 || x >= width() || y >= height()) return 0;
+    if (x < 0 || y < 0 || x >= width() || y >= height())
+        return 0;
     const unsigned char* data = cairo_image_surface_get_data(m_surface);
     const int stride = cairo_image_surface_get_stride(m_surface);
     const std::uint32_t p = *reinterpret_cast<const std::uint32_t*>(data + y * stride + x * 4);
     const std::uint32_t a = p >> 24;
-    if (a == 0) return 0;
+    if (a == 0)
+        return 0;
     auto un = [a](std::uint32_t c) { return std::min<std::uint32_t>(255, (c * 255 + a / 2) / a); };
     return (a << 24) | (un((p >> 16) & 0xFF) << 16) | (un((p >> 8) & 0xFF) << 8) | un(p & 0xFF);
 }
@@ -182,7 +197,8 @@ int Snapshot::CountNear(const RECT& rect, std::uint32_t rgb, int tolerance) cons
             for (int shift = 0; shift <= 16; shift += 8) {
                 const int a = static_cast<int>((p >> shift) & 0xFF);
                 const int b = static_cast<int>((rgb >> shift) & 0xFF);
-                if (std::abs(a - b) > tolerance) near = false;
+                if (std::abs(a - b) > tolerance)
+                    near = false;
             }
             count += near ? 1 : 0;
         }
@@ -196,8 +212,10 @@ int Snapshot::CountDark(const RECT& rect, int maxLuma) const
     for (int y = rect.top; y < rect.bottom; ++y) {
         for (int x = rect.left; x < rect.right; ++x) {
             const std::uint32_t p = Pixel(x, y);
-            if ((p >> 24) < 128) continue;
-            const int luma = static_cast<int>((((p >> 16) & 0xFF) * 299 + ((p >> 8) & 0xFF) * 587 + (p & 0xFF) * 114) / 1000);
+            if ((p >> 24) < 128)
+                continue;
+            const int luma = static_cast<int>(
+                (((p >> 16) & 0xFF) * 299 + ((p >> 8) & 0xFF) * 587 + (p & 0xFF) * 114) / 1000);
             count += luma <= maxLuma ? 1 : 0;
         }
     }
@@ -211,7 +229,7 @@ std::string OutputPath(const std::string& fileName)
     return (dir / fileName).string();
 }
 
-}  // namespace uitest
+} // namespace uitest
 
 // fontconfig keeps its font caches until the process ends and hides the
 // pointers to them, so LeakSanitizer reports them as leaked; they are not

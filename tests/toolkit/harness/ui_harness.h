@@ -15,7 +15,8 @@ namespace uitest {
 using namespace DuiLib;
 
 // One notification as a window saw it.
-struct SeenNotify {
+struct SeenNotify
+{
     std::wstring type;
     std::wstring sender;
     WPARAM wParam;
@@ -25,7 +26,8 @@ struct SeenNotify {
 
 // A window whose skin is given as XML text or as a file under the skin
 // folder; records its notifications and lets a test hook messages.
-class SkinWindow : public WindowImplBaseEx {
+class SkinWindow : public WindowImplBaseEx
+{
 public:
     explicit SkinWindow(std::wstring skin, std::wstring folder = L"");
 
@@ -76,14 +78,14 @@ void MoveMouse(HWND hwnd, POINT devicePoint);
 void PressKey(HWND hwnd, UINT vk, bool shift = false);
 void Wheel(HWND hwnd, POINT devicePoint, int notches);
 
-template <class T>
-T* Find(CPaintManagerUI& pm, const wchar_t* name)
+template <class T> T* Find(CPaintManagerUI& pm, const wchar_t* name)
 {
     return dynamic_cast<T*>(pm.FindControl(name));
 }
 
 // A fresh rendering of the window's content.
-class Snapshot {
+class Snapshot
+{
 public:
     explicit Snapshot(CPaintManagerUI& pm);
     ~Snapshot();
@@ -107,4 +109,4 @@ private:
 // Where tests write their PNGs (created if needed).
 std::string OutputPath(const std::string& fileName);
 
-}  // namespace uitest
+} // namespace uitest
