@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "host/host_config.h"
-#include "space_data/cloud_space_types.h"
+#include "platform/backup_host_messages.h"
 #include "toolkit/win32/message_queue.h"
 
 namespace host {

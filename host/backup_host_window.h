@@ -3,11 +3,7 @@
 // backup generation and the version 3 device list come from the host
 // configuration, and a deletion goes to the backup service through the
 // deleter it was given.
-//
-// Each message carries an event handle in wParam and a pointer in lParam;
-// the answer is written through the pointer and then the event is set, so
-// the module's worker (blocked in SendMessageW and then in the wait) may
-// read it.
+// The data each message carries is in platform/backup_host_messages.h.
 #pragma once
 
 #include <functional>

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/backup_host_messages.h"
+
 // A plain integer enumeration: the value is the category everywhere, in
 // `CloudSpaceItem`, in the detail records and in the window's list. The value
 // 7 is left out on purpose; no worker, request or row ever uses it.
@@ -71,13 +73,4 @@ struct BackupData
 {
     std::shared_ptr<CloudSpaceItem> item;
     std::vector<BackUpModel> models;
-};
-
-// One entry of the device list that the host fills on a version 3 query.
-// Only the two strings are read here; the rest is the host's.
-struct BackupDevListSt
-{
-    std::string deviceName;
-    std::string deviceId;
-    std::string hostData;
 };

@@ -19,7 +19,7 @@
 #include <chrono>
 #include <memory>
 
-#include "host/app/space_load.h"
+#include "app/space_load.h"
 #include "host/host_config.h"
 #include "platform/operation_manage_service.h"
 #include "space_data/cloud_space_query.h"

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "cloud_emulator.h"
-#include "host/app/cbs_backup_deleter.h"
+#include "app/cbs_backup_deleter.h"
 #include "host/backup_host_window.h"
 #include "host/host_config.h"
 #include "space_data/cloud_space_view_model.h"

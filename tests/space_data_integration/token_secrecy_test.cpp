@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "foundation/utilities.h"
-#include "host/app/space_load.h"
+#include "app/space_load.h"
 #include "host/file_logger.h"
 #include "host/host_config.h"
 #include "host/logger_sink.h"

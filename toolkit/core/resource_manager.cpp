@@ -7,7 +7,7 @@
 
 #include "toolkit/core/attributes.h"
 #include "toolkit/core/dpi.h"
-#include "toolkit/paint/paint_manager.h"
+#include "toolkit/core/resource_paths.h"
 
 namespace DuiLib {
 
@@ -62,8 +62,8 @@ const CResourceManager::Table& CResourceManager::TableFor(const std::wstring& la
 {
     auto found = m_tables.find(language);
     if (found == m_tables.end()) {
-        const std::string path = attr::Narrow(CPaintManagerUI::GetInstancePath().str()) + "Res/lang/" +
-                                 attr::Narrow(language) + ".json";
+        const std::string path =
+            attr::Narrow(resource_paths::Instance()) + "Res/lang/" + attr::Narrow(language) + ".json";
         found = m_tables.emplace(language, std::make_shared<Table>(ReadLanguageFile(path))).first;
     }
     return *found->second;

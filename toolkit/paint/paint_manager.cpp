@@ -9,6 +9,7 @@
 #include <mutex>
 
 #include "toolkit/controls/container.h"
+#include "toolkit/core/resource_paths.h"
 #include "toolkit/paint/ui_messages.h"
 #include "toolkit/render/render_context.h"
 #include "toolkit/win32/message_queue.h"
@@ -16,26 +17,6 @@
 namespace DuiLib {
 
 namespace {
-
-std::mutex g_pathMutex;
-
-CDuiString& InstancePath()
-{
-    static CDuiString path = [] {
-        const char* env = std::getenv("SPACEMGM_RESOURCE_ROOT");
-        std::string root = env != nullptr && *env != 0 ? env : ".";
-        if (root.back() != '/')
-            root += '/';
-        return CDuiString(attr::Widen(root));
-    }();
-    return path;
-}
-
-CDuiString& ResourcePath()
-{
-    static CDuiString path = InstancePath() + L"Res/skin/";
-    return path;
-}
 
 CControlUI* FindByName(CControlUI* control, LPVOID data)
 {
@@ -102,33 +83,22 @@ HDC CPaintManagerUI::GetPaintDC()
 
 void CPaintManagerUI::SetInstancePath(LPCTSTR pStrPath)
 {
-    std::lock_guard<std::mutex> lock(g_pathMutex);
-    std::wstring path = pStrPath ? pStrPath : L"";
-    if (!path.empty() && path.back() != L'/')
-        path += L'/';
-    InstancePath() = path;
-    ResourcePath() = InstancePath() + L"Res/skin/";
+    resource_paths::SetInstance(pStrPath ? pStrPath : L"");
 }
 
 CDuiString CPaintManagerUI::GetInstancePath()
 {
-    std::lock_guard<std::mutex> lock(g_pathMutex);
-    return InstancePath();
+    return CDuiString(resource_paths::Instance());
 }
 
 void CPaintManagerUI::SetResourcePath(LPCTSTR pStrPath)
 {
-    std::lock_guard<std::mutex> lock(g_pathMutex);
-    std::wstring path = pStrPath ? pStrPath : L"";
-    if (!path.empty() && path.back() != L'/')
-        path += L'/';
-    ResourcePath() = path;
+    resource_paths::SetSkin(pStrPath ? pStrPath : L"");
 }
 
 CDuiString CPaintManagerUI::GetResourcePath()
 {
-    std::lock_guard<std::mutex> lock(g_pathMutex);
-    return ResourcePath();
+    return CDuiString(resource_paths::Skin());
 }
 
 bool CPaintManagerUI::AttachDialog(CControlUI* pControl)

@@ -1,4 +1,4 @@
-#include "host/app/space_load.h"
+#include "app/space_load.h"
 
 #include "platform/operation_manage_service.h"
 #include "space_data/cloud_space_query.h"

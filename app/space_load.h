@@ -3,7 +3,7 @@
 // twelve categories.
 #pragma once
 
-#include "host/app/usage_report.h"
+#include "app/usage_report.h"
 #include "space_data/cloud_space_view_model.h"
 
 namespace app {

@@ -1,4 +1,4 @@
-#include "host/app/usage_report.h"
+#include "app/usage_report.h"
 
 #include <json/json.h>
 

@@ -1,4 +1,4 @@
-#include "host/app/cbs_backup_deleter.h"
+#include "app/cbs_backup_deleter.h"
 
 #include "foundation/request_catalogue.h"
 #include "request/run_request.h"

@@ -13,8 +13,8 @@
 #include <string>
 #include <vector>
 
-#include "host/app/cbs_backup_deleter.h"
-#include "host/app/space_load.h"
+#include "app/cbs_backup_deleter.h"
+#include "app/space_load.h"
 #include "host/backup_host_window.h"
 #include "host/host_config.h"
 #include "space_data/cloud_space_view_model.h"
