@@ -9,7 +9,7 @@ packages=(
   libcurl4-openssl-dev libjsoncpp-dev libssl-dev libcpp-httplib-dev
   libpugixml-dev libcairo2-dev libpango1.0-dev librsvg2-dev libsdl2-dev
   libgtest-dev libgmock-dev libbenchmark-dev
-  clang libclang-rt-14-dev
+  clang libclang-rt-14-dev clang-format-14
   xvfb xauth xdotool x11-apps
   fonts-dejavu-core fonts-noto-core fonts-noto-cjk fonts-thai-tlwg
 )

@@ -5,8 +5,8 @@
 #include <memory>
 #include <string>
 
-#include "cloud_emulator.h"
 #include "app/cbs_backup_deleter.h"
+#include "cloud_emulator.h"
 #include "host/backup_host_window.h"
 #include "host/host_config.h"
 #include "space_data/cloud_space_view_model.h"

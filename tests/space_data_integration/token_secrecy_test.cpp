@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "foundation/utilities.h"
 #include "app/space_load.h"
+#include "foundation/utilities.h"
 #include "host/file_logger.h"
 #include "host/host_config.h"
 #include "host/logger_sink.h"
