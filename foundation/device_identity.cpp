@@ -32,12 +32,12 @@ std::string RandomHelper::NextDigits()
 
 std::string IdentityCache::GetOrFill(const std::function<std::string()>& probe)
 {
-    std::lock_guard<std::mutex> lock(mutex_);
-    if (!value_.empty()) {
-        return value_;
+    std::lock_guard<std::mutex> lock(fillMutex);
+    if (!value.empty()) {
+        return value;
     }
     std::string found = probe();
-    value_ = found;
+    value = found;
     return found;
 }
 

@@ -27,7 +27,7 @@ public:
 class ManagementClass
 {
 public:
-    explicit ManagementClass(std::string dmiFolder = "/sys/class/dmi/id");
+    explicit ManagementClass(std::string dmiFolderPath = "/sys/class/dmi/id");
     virtual ~ManagementClass();
 
     // Runs `query`; false if the query names a class this machine cannot answer.
@@ -40,10 +40,10 @@ public:
     std::wstring query;
 
 private:
-    std::string dmiFolder_;
-    std::map<std::wstring, std::wstring> row_;
-    bool opened_ = false;
-    bool rowTaken_ = false;
+    std::string dmiFolder;
+    std::map<std::wstring, std::wstring> row;
+    bool opened = false;
+    bool rowTaken = false;
 };
 
 // A process-wide identity value that is filled once, on the first read that
@@ -56,8 +56,8 @@ public:
     std::string GetOrFill(const std::function<std::string()>& probe);
 
 private:
-    std::mutex mutex_;
-    std::string value_;
+    std::mutex fillMutex;
+    std::string value;
 };
 
 // The two places a model name can come from, in the order they are asked.

@@ -35,38 +35,37 @@ AttributeEntry LogsAs(const UpLogType& logRow)
 class Event
 {
 public:
-    Event(const char* gbkDescription, const AnyBaseCmd& command, const char* page = "")
-        : description_(gbkDescription), command_(&command), page_(page)
+    Event(const char* gbkDescription, const AnyBaseCmd& eventCommand, const char* eventPage = "")
+        : description(gbkDescription), command(&eventCommand), page(eventPage)
     {
     }
 
     Event& After(const OperateBasicEventType& openingEvent)
     {
-        linkedEvent_ = &openingEvent;
+        linkedEvent = &openingEvent;
         return *this;
     }
 
-    Event& Opens(const char* targetPage, const char* subPage)
+    Event& Opens(const char* openedPage, const char* openedSubPage)
     {
-        targetPage_ = targetPage;
-        subPage_ = subPage;
+        targetPage = openedPage;
+        subPage = openedSubPage;
         return *this;
     }
 
     operator AttributeEntry() const
     {
-        return {kOperateEventAttributeKey,
-                std::make_shared<OperateEventAttribute>(description_, command_, page_, linkedEvent_, subPage_,
-                                                        targetPage_)};
+        return {kOperateEventAttributeKey, std::make_shared<OperateEventAttribute>(
+                                               description, command, page, linkedEvent, subPage, targetPage)};
     }
 
 private:
-    const char* description_;
-    const AnyBaseCmd* command_;
-    const char* page_;
-    const AdvancedIntEnumType* linkedEvent_ = nullptr;
-    const char* subPage_ = "";
-    const char* targetPage_ = "";
+    const char* description;
+    const AnyBaseCmd* command;
+    const char* page;
+    const AdvancedIntEnumType* linkedEvent = nullptr;
+    const char* subPage = "";
+    const char* targetPage = "";
 };
 
 } // namespace

@@ -22,19 +22,19 @@ constexpr size_t kChunk = 4194304;
 class FileDescriptor
 {
 public:
-    explicit FileDescriptor(int fd) : fd_(fd) {}
+    explicit FileDescriptor(int descriptor) : fd(descriptor) {}
     ~FileDescriptor()
     {
-        if (fd_ >= 0) {
-            close(fd_);
+        if (fd >= 0) {
+            close(fd);
         }
     }
     FileDescriptor(const FileDescriptor&) = delete;
     FileDescriptor& operator=(const FileDescriptor&) = delete;
-    int get() const { return fd_; }
+    int get() const { return fd; }
 
 private:
-    int fd_;
+    int fd;
 };
 
 enum class ChunkRead

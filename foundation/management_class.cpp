@@ -54,15 +54,15 @@ std::optional<std::wstring> ReadAttribute(const std::string& path)
 
 } // namespace
 
-ManagementClass::ManagementClass(std::string dmiFolder) : dmiFolder_(std::move(dmiFolder)) {}
+ManagementClass::ManagementClass(std::string dmiFolderPath) : dmiFolder(std::move(dmiFolderPath)) {}
 
 ManagementClass::~ManagementClass() = default;
 
 bool ManagementClass::Open()
 {
-    opened_ = false;
-    rowTaken_ = false;
-    row_.clear();
+    opened = false;
+    rowTaken = false;
+    row.clear();
     const std::wstring lowerQuery = LowerWide(query);
     const std::wstring prefix = kSelectPrefix;
     if (lowerQuery.compare(0, prefix.size(), prefix) != 0 ||
@@ -70,30 +70,30 @@ bool ManagementClass::Open()
         return false;
     }
     for (const auto& [property, attribute] : kProductProperties) {
-        if (std::optional<std::wstring> value = ReadAttribute(dmiFolder_ + "/" + attribute)) {
-            row_[property] = *value;
+        if (std::optional<std::wstring> value = ReadAttribute(dmiFolder + "/" + attribute)) {
+            row[property] = *value;
         }
     }
     // No readable attribute at all means the machine exports no DMI data:
     // the query could not run, as when the connection fails.
-    opened_ = !row_.empty();
-    return opened_;
+    opened = !row.empty();
+    return opened;
 }
 
 bool ManagementClass::Next()
 {
-    if (!opened_ || rowTaken_) {
+    if (!opened || rowTaken) {
         return false;
     }
-    rowTaken_ = true;
+    rowTaken = true;
     return true;
 }
 
 std::wstring ManagementClass::Property(const std::wstring& name) const
 {
-    if (!rowTaken_) {
+    if (!rowTaken) {
         return {};
     }
-    const auto found = row_.find(name);
-    return found == row_.end() ? std::wstring() : found->second;
+    const auto found = row.find(name);
+    return found == row.end() ? std::wstring() : found->second;
 }

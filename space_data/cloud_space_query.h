@@ -52,13 +52,13 @@ private:
     std::string HumanReadableFilesize(double bytes);
 
     // Carried along by copies only; no operation reads them.
-    std::string reservedText_;
-    Json::Value reservedJson_;
+    std::string reservedText;
+    Json::Value reservedJson;
 
     NS::Drive::UserSpaceInfo spaceInfo;
     std::map<int32_t, ItemColor> itemColors;
     std::map<std::string, int32_t> colorTypes;
-    std::map<std::string, std::string> reservedMap_;
+    std::map<std::string, std::string> reservedMap;
     int64_t lastQueryTime = 0;
     float fullThreshold = 15.36f;
     std::map<std::string, long> itemLengths;

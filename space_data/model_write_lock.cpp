@@ -2,22 +2,22 @@
 
 void ModelWriteLock::Enter()
 {
-    std::unique_lock<std::mutex> guard(mutex_);
+    std::unique_lock<std::mutex> guard(mutex);
     // Waits only while a writer is in AND readers are present; with no
     // readers a second writer passes straight through.
-    writerMayEnter_.wait(guard, [this] { return !(writerEntered_ && readerCount_ != 0); });
-    writerEntered_ = true;
+    writerMayEnter.wait(guard, [this] { return !(writerEntered && readerCount != 0); });
+    writerEntered = true;
 }
 
 void ModelWriteLock::Leave()
 {
-    std::lock_guard<std::mutex> guard(mutex_);
-    writerEntered_ = false;
-    readersMayEnter_.notify_all();
+    std::lock_guard<std::mutex> guard(mutex);
+    writerEntered = false;
+    readersMayEnter.notify_all();
 }
 
 bool ModelWriteLock::WriterEntered() const
 {
-    std::lock_guard<std::mutex> guard(mutex_);
-    return writerEntered_;
+    std::lock_guard<std::mutex> guard(mutex);
+    return writerEntered;
 }

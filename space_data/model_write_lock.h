@@ -15,22 +15,22 @@ public:
     bool WriterEntered() const;
 
 private:
-    mutable std::mutex mutex_;
-    std::condition_variable readersMayEnter_;
-    std::condition_variable writerMayEnter_;
-    bool writerEntered_ = false;
-    uint64_t readerCount_ = 0;
+    mutable std::mutex mutex;
+    std::condition_variable readersMayEnter;
+    std::condition_variable writerMayEnter;
+    bool writerEntered = false;
+    uint64_t readerCount = 0;
 };
 
 // Holds a `ModelWriteLock` for one scope.
 class ModelWriteGuard
 {
 public:
-    explicit ModelWriteGuard(ModelWriteLock& lock) : lock_(lock) { lock_.Enter(); }
-    ~ModelWriteGuard() { lock_.Leave(); }
+    explicit ModelWriteGuard(ModelWriteLock& lock) : writeLock(lock) { writeLock.Enter(); }
+    ~ModelWriteGuard() { writeLock.Leave(); }
     ModelWriteGuard(const ModelWriteGuard&) = delete;
     ModelWriteGuard& operator=(const ModelWriteGuard&) = delete;
 
 private:
-    ModelWriteLock& lock_;
+    ModelWriteLock& writeLock;
 };

@@ -39,17 +39,17 @@ inline std::int32_t CheckKeys(const Json::Value& value, std::initializer_list<co
 class JsonFields
 {
 public:
-    explicit JsonFields(const Json::Value& value) : value_(value)
+    explicit JsonFields(const Json::Value& value) : object(value)
     {
-        if (value.type() != Json::objectValue || value.size() > members_.size()) {
+        if (value.type() != Json::objectValue || value.size() > members.size()) {
             return;
         }
         for (auto member = value.begin(); member != value.end(); ++member) {
             const char* end = nullptr;
             const char* name = member.memberName(&end);
-            members_[memberCount_++] = Member{name, static_cast<std::size_t>(end - name), &*member};
+            members[memberCount++] = Member{name, static_cast<std::size_t>(end - name), &*member};
         }
-        listed_ = true;
+        listed = true;
     }
     // The reader refers to the value; a temporary would be gone before the
     // first read.
@@ -83,11 +83,11 @@ private:
     const Json::Value* Find(const char* key) const
     {
         const std::size_t length = std::strlen(key);
-        if (!listed_) {
-            return value_.find(key, key + length);
+        if (!listed) {
+            return object.find(key, key + length);
         }
-        for (std::size_t index = 0; index < memberCount_; ++index) {
-            const Member& member = members_[index];
+        for (std::size_t index = 0; index < memberCount; ++index) {
+            const Member& member = members[index];
             if (member.length == length && std::memcmp(member.name, key, length) == 0) {
                 return member.value;
             }
@@ -95,10 +95,10 @@ private:
         return nullptr;
     }
 
-    const Json::Value& value_;
-    std::array<Member, 24> members_{};
-    std::size_t memberCount_ = 0;
-    bool listed_ = false;
+    const Json::Value& object;
+    std::array<Member, 24> members{};
+    std::size_t memberCount = 0;
+    bool listed = false;
 };
 
 // Appends one element per index of `list` (an absent key has size 0); the
