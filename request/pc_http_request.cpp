@@ -134,9 +134,28 @@ bool IsEmptyReply(const std::string& reply)
     return reply.empty() || reply == "[]";
 }
 
+std::string BodyText(const std::shared_ptr<PostableData>& body)
+{
+    if (auto finished = std::dynamic_pointer_cast<PostableString>(body)) {
+        return finished->text;
+    }
+    return std::string();
+}
+
+void Transfer(AnyHttpRequest& transport, const HttpRequestFields& fields, const std::string& bodyText,
+              CResponseInfo& response)
+{
+    transport.SetBaseUrl(fields.url);
+    transport.Initialize(fields.method, fields.requestHeaders, bodyText, fields.timeout, 3, 0, 0);
+    AnyHttpHeaderMap responseHeaders;
+    response = transport.SendWebRequest(responseHeaders);
+    RememberCloudPhotoRetryAfter(fields.url, responseHeaders);
+}
+
 } // namespace pc_http_detail
 
-PCHttpRequest::PCHttpRequest(const std::string& baseUrl) : AnyHttpRequest(baseUrl, AnyHttpPost), url(baseUrl)
+PCHttpRequest::PCHttpRequest(const std::string& baseUrl)
+    : AnyHttpRequest(baseUrl, AnyHttpPost), HttpRequestFields(baseUrl)
 {
 }
 
@@ -202,14 +221,10 @@ std::string PCHttpRequest::SendRaw(int32_t& status, std::string& errorText,
 {
     errorText.clear();
     status = -1;
-    replyParsed_ = false;
+    replyParsed = false;
     CResponseInfo response;
-    std::string bodyText;
-    if (auto finished = std::dynamic_pointer_cast<PostableString>(body)) {
-        bodyText = finished->text;
-    }
+    const std::string bodyText = pc_http_detail::BodyText(body);
     try {
-        SetBaseUrl(url);
         if (requestHeaders.count("AuthType") == 0) {
             const std::string appId(kClientApplicationId);
             requestHeaders["AuthType"] = Base64Encode(appId.data(), static_cast<int>(appId.size()));
@@ -217,14 +232,10 @@ std::string PCHttpRequest::SendRaw(int32_t& status, std::string& errorText,
         if (requestHeaders.count("Authorization") == 0) {
             requestHeaders["Authorization"] = BuildAuthorization(std::string());
         }
-        Initialize(method, requestHeaders, bodyText, timeout, 3, 0, 0);
-        AnyHttpHeaderMap responseHeaders;
-        response = SendWebRequest(responseHeaders);
-
-        RememberCloudPhotoRetryAfter(url, responseHeaders);
+        pc_http_detail::Transfer(*this, *this, bodyText, response);
         status = response.status;
         if (status == 200) {
-            replyParsed_ = pc_http_detail::ReadBaseResult(response.body, parsedReply_);
+            replyParsed = pc_http_detail::ReadBaseResult(response.body, parsedReply);
         }
     } catch (...) {
         // A failed send is an empty reply; the caller gets a null record.

@@ -14,6 +14,7 @@
 
 #include "foundation/advanced_enum.h"
 #include "platform/any_http_request.h"
+#include "request/http_request_fields.h"
 #include "request/serializable_object.h"
 
 // Receives what a caller may want to know about an exchange after the send.
@@ -41,7 +42,7 @@ AnyHttpHeaderMap GetCommonHeaders();
 // the client's own application id.
 std::string BuildAuthorization(const std::string& appId);
 
-class PCHttpRequest : public AnyHttpRequest
+class PCHttpRequest : public AnyHttpRequest, public HttpRequestFields
 {
 public:
     explicit PCHttpRequest(const std::string& baseUrl);
@@ -69,16 +70,6 @@ public:
     // written by nothing.
     std::string SendRaw(int32_t& status, std::string& errorText, std::shared_ptr<PostableData> body);
 
-    // Fields in the order the exchange fills them.
-    std::string contentMd5;
-    AdvancedIntEnumType requestType;
-    AnyHttpHeaderMap requestHeaders;
-    std::string traceId;
-    std::shared_ptr<PostableData> postData;
-    AnyHttpRequestMethod method = AnyHttpGet;
-    int32_t timeout = 30;
-    std::string url;
-
 protected:
     void SetTraceAndPath(const AdvancedIntEnumType& type, bool appendTraceId);
 
@@ -87,8 +78,8 @@ private:
     // ExecuteRequest decodes its record from it rather than parsing the same
     // text a second time; without it (another status, or text that is not
     // JSON) the record parses the reply itself.
-    Json::Value parsedReply_;
-    bool replyParsed_ = false;
+    Json::Value parsedReply;
+    bool replyParsed = false;
 };
 
 // The timeout of an exchange for `url`: 100 seconds, or 30000 when the URL
@@ -122,6 +113,17 @@ bool ReadBaseResult(const std::string& body, Json::Value& parsed);
 void ReadParsedRecord(SerializableObject& record, const Json::Value& value);
 
 bool IsEmptyReply(const std::string& reply);
+
+// The text a send puts on the wire: a finished body's own text; any other
+// body, and none, send nothing.
+std::string BodyText(const std::shared_ptr<PostableData>& body);
+
+// The transport step of both request classes: points `transport` at the
+// fields' URL, sends once, and takes the cloud photo service's Retry-After
+// from the reply. What the transport throws passes through, and `response`
+// is then left as it was.
+void Transfer(AnyHttpRequest& transport, const HttpRequestFields& fields, const std::string& bodyText,
+              CResponseInfo& response);
 
 } // namespace pc_http_detail
 
@@ -163,8 +165,8 @@ template <class T> std::shared_ptr<T> PCHttpRequest::ExecuteRequest(int32_t& sta
             return nullptr;
         }
         result = std::make_shared<T>();
-        if (replyParsed_) {
-            pc_http_detail::ReadParsedRecord(*result, parsedReply_);
+        if (replyParsed) {
+            pc_http_detail::ReadParsedRecord(*result, parsedReply);
         } else {
             ReadRecord(*result, reply);
         }

@@ -16,6 +16,20 @@
 
 namespace {
 
+// The method of the plain branches for a reply type, from the list of
+// replies in run_request.h.
+template <class T> struct RunRequestMethod;
+
+#define SPACEMGM_RUN_REQUEST_METHOD(T, sendMethod)                                                           \
+    template <> struct RunRequestMethod<T>                                                                   \
+    {                                                                                                        \
+        static constexpr AnyHttpRequestMethod value = sendMethod;                                            \
+    };
+
+SPACEMGM_RUN_REQUEST_REPLIES(SPACEMGM_RUN_REQUEST_METHOD)
+
+#undef SPACEMGM_RUN_REQUEST_METHOD
+
 bool IsNspRow(const NspRequestType& row, int32_t id)
 {
     const NspRequestType* known = FindEnumRow<NspRequestType>(id);
@@ -101,21 +115,11 @@ std::shared_ptr<T> RunRequest(const AdvancedIntEnumType* requestType, std::share
     return result;
 }
 
-#define SPACEMGM_RUN_REQUEST_INSTANCE(T)                                                                     \
+#define SPACEMGM_RUN_REQUEST_INSTANCE(T, sendMethod)                                                         \
     template std::shared_ptr<T> RunRequest<T>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,     \
-                                              std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&)
+                                              std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
 
-SPACEMGM_RUN_REQUEST_INSTANCE(GetPimDataVersionResponse);
-SPACEMGM_RUN_REQUEST_INSTANCE(NSPFoldersResponse);
-SPACEMGM_RUN_REQUEST_INSTANCE(StatisticResponse);
-SPACEMGM_RUN_REQUEST_INSTANCE(GetSpaceFromUrl);
-SPACEMGM_RUN_REQUEST_INSTANCE(NSPFilesResponse);
-SPACEMGM_RUN_REQUEST_INSTANCE(NSPResponse);
-SPACEMGM_RUN_REQUEST_INSTANCE(GetQuotaUsedInfoResponseBk);
-SPACEMGM_RUN_REQUEST_INSTANCE(GetQuotaUsedInfoResponse);
-SPACEMGM_RUN_REQUEST_INSTANCE(QueryAllBackUpResponse);
-SPACEMGM_RUN_REQUEST_INSTANCE(QueryBackUpSmsAndCallLogResponse);
-SPACEMGM_RUN_REQUEST_INSTANCE(BaseRsp);
+SPACEMGM_RUN_REQUEST_REPLIES(SPACEMGM_RUN_REQUEST_INSTANCE)
 
 #undef SPACEMGM_RUN_REQUEST_INSTANCE
 

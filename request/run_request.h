@@ -32,70 +32,31 @@ std::shared_ptr<T> RunRequest(const AdvancedIntEnumType* requestType, std::share
                               std::shared_ptr<RequestExchange> exchange = nullptr,
                               const AnyHttpHeaderMap& customHeaders = AnyHttpHeaderMap());
 
-// Every instance there is; another T does not link.
-extern template std::shared_ptr<GetPimDataVersionResponse>
-RunRequest<GetPimDataVersionResponse>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,
-                                      std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
-extern template std::shared_ptr<NSPFoldersResponse>
-RunRequest<NSPFoldersResponse>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,
-                               std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
-extern template std::shared_ptr<StatisticResponse>
-RunRequest<StatisticResponse>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,
-                              std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
-extern template std::shared_ptr<GetSpaceFromUrl> RunRequest<GetSpaceFromUrl>(const AdvancedIntEnumType*,
-                                                                             std::shared_ptr<PostableData>,
-                                                                             std::shared_ptr<RequestExchange>,
-                                                                             const AnyHttpHeaderMap&);
-extern template std::shared_ptr<NSPFilesResponse>
-RunRequest<NSPFilesResponse>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,
-                             std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
-extern template std::shared_ptr<NSPResponse> RunRequest<NSPResponse>(const AdvancedIntEnumType*,
-                                                                     std::shared_ptr<PostableData>,
-                                                                     std::shared_ptr<RequestExchange>,
-                                                                     const AnyHttpHeaderMap&);
-extern template std::shared_ptr<GetQuotaUsedInfoResponseBk>
-RunRequest<GetQuotaUsedInfoResponseBk>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,
-                                       std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
-extern template std::shared_ptr<GetQuotaUsedInfoResponse>
-RunRequest<GetQuotaUsedInfoResponse>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,
-                                     std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
-extern template std::shared_ptr<QueryAllBackUpResponse>
-RunRequest<QueryAllBackUpResponse>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,
-                                   std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
-extern template std::shared_ptr<QueryBackUpSmsAndCallLogResponse>
-RunRequest<QueryBackUpSmsAndCallLogResponse>(const AdvancedIntEnumType*, std::shared_ptr<PostableData>,
-                                             std::shared_ptr<RequestExchange>, const AnyHttpHeaderMap&);
-extern template std::shared_ptr<BaseRsp> RunRequest<BaseRsp>(const AdvancedIntEnumType*,
-                                                             std::shared_ptr<PostableData>,
-                                                             std::shared_ptr<RequestExchange>,
-                                                             const AnyHttpHeaderMap&);
+// Every reply type a runner serves, with the method that the branches other
+// than NSP and cloud photo send it with (those two always send 1). This is
+// the one list: each entry is declared below and instantiated in
+// run_request.cpp, so another T does not link.
+#define SPACEMGM_RUN_REQUEST_REPLIES(REPLY)                                                                  \
+    REPLY(GetPimDataVersionResponse, AnyHttpGet)                                                             \
+    REPLY(NSPFoldersResponse, AnyHttpGet)                                                                    \
+    REPLY(StatisticResponse, AnyHttpGet)                                                                     \
+    REPLY(GetSpaceFromUrl, AnyHttpGet)                                                                       \
+    REPLY(NSPFilesResponse, AnyHttpGet)                                                                      \
+    REPLY(NSPResponse, AnyHttpGet)                                                                           \
+    REPLY(GetQuotaUsedInfoResponseBk, AnyHttpPost)                                                           \
+    REPLY(GetQuotaUsedInfoResponse, AnyHttpPost)                                                             \
+    REPLY(QueryAllBackUpResponse, AnyHttpPost)                                                               \
+    REPLY(QueryBackUpSmsAndCallLogResponse, AnyHttpPost)                                                     \
+    REPLY(BaseRsp, AnyHttpPost)
 
-// The method the non-NSP, non-cloud-photo branches use for a reply type:
-// 1 for the quota and backup replies and BaseRsp, 0 for the others.
-template <class T> struct RunRequestMethod
-{
-    static constexpr AnyHttpRequestMethod value = AnyHttpGet;
-};
-template <> struct RunRequestMethod<GetQuotaUsedInfoResponseBk>
-{
-    static constexpr AnyHttpRequestMethod value = AnyHttpPost;
-};
-template <> struct RunRequestMethod<GetQuotaUsedInfoResponse>
-{
-    static constexpr AnyHttpRequestMethod value = AnyHttpPost;
-};
-template <> struct RunRequestMethod<QueryAllBackUpResponse>
-{
-    static constexpr AnyHttpRequestMethod value = AnyHttpPost;
-};
-template <> struct RunRequestMethod<QueryBackUpSmsAndCallLogResponse>
-{
-    static constexpr AnyHttpRequestMethod value = AnyHttpPost;
-};
-template <> struct RunRequestMethod<BaseRsp>
-{
-    static constexpr AnyHttpRequestMethod value = AnyHttpPost;
-};
+#define SPACEMGM_DECLARE_RUN_REQUEST(T, sendMethod)                                                          \
+    extern template std::shared_ptr<T> RunRequest<T>(                                                        \
+        const AdvancedIntEnumType*, std::shared_ptr<PostableData>, std::shared_ptr<RequestExchange>,         \
+        const AnyHttpHeaderMap&);
+
+SPACEMGM_RUN_REQUEST_REPLIES(SPACEMGM_DECLARE_RUN_REQUEST)
+
+#undef SPACEMGM_DECLARE_RUN_REQUEST
 
 // The one field of a cloud photo reply the throttle stamp looks at. No reply
 // record of this client derives from it, so the stamp never fires; it stays

@@ -12,7 +12,7 @@
 
 CloudPhotoV2PCHttpRequest::CloudPhotoV2PCHttpRequest()
     : AnyHttpRequest(WideToUtf8(GlobalParamWrapper::GetInstance()->GetCloudPhotoUrl()), AnyHttpGet),
-      url(WideToUtf8(GlobalParamWrapper::GetInstance()->GetCloudPhotoUrl()))
+      HttpRequestFields(WideToUtf8(GlobalParamWrapper::GetInstance()->GetCloudPhotoUrl()))
 {
 }
 
@@ -59,17 +59,9 @@ std::string CloudPhotoV2PCHttpRequest::SendRaw(int32_t& status, std::string& err
     errorText.clear();
     status = -1;
     CResponseInfo response;
-    std::string bodyText;
-    if (auto finished = std::dynamic_pointer_cast<PostableString>(body)) {
-        bodyText = finished->text;
-    }
+    const std::string bodyText = pc_http_detail::BodyText(body);
     try {
-        SetBaseUrl(url);
-        Initialize(method, requestHeaders, bodyText, timeout, 3, 0, 0);
-        AnyHttpHeaderMap responseHeaders;
-        response = SendWebRequest(responseHeaders);
-
-        RememberCloudPhotoRetryAfter(url, responseHeaders);
+        pc_http_detail::Transfer(*this, *this, bodyText, response);
         status = response.status;
         pc_http_detail::ReadBaseResult(response.body);
     } catch (...) {

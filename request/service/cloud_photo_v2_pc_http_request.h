@@ -8,11 +8,11 @@
 #include <memory>
 #include <string>
 
-#include "foundation/advanced_enum.h"
 #include "platform/any_http_request.h"
+#include "request/http_request_fields.h"
 #include "request/postable_data.h"
 
-class CloudPhotoV2PCHttpRequest : public AnyHttpRequest
+class CloudPhotoV2PCHttpRequest : public AnyHttpRequest, public HttpRequestFields
 {
 public:
     CloudPhotoV2PCHttpRequest();
@@ -29,13 +29,4 @@ public:
 
     // The send step without the Authorization and AuthType fallbacks.
     std::string SendRaw(int32_t& status, std::string& errorText, std::shared_ptr<PostableData> body);
-
-    std::string contentMd5;
-    AdvancedIntEnumType requestType;
-    AnyHttpHeaderMap requestHeaders;
-    std::string traceId;
-    std::shared_ptr<PostableData> postData;
-    int32_t timeout = 30;
-    std::string url;
-    AnyHttpRequestMethod method = AnyHttpGet;
 };
