@@ -1,5 +1,7 @@
 // The cloud backup worker: the host names the backup generation, and the
 // devices' bytes come from the backup quota query of that generation.
+#include <functional>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -10,7 +12,9 @@
 #include "foundation/utilities.h"
 #include "request/postable_string.h"
 #include "request/run_request.h"
+#include "space_data/category_item.h"
 #include "space_data/cloud_space_view_model.h"
+#include "space_data/host_answer_event.h"
 #include "space_data/session_token.h"
 #include "space_data/space_log.h"
 
@@ -48,13 +52,51 @@ bool MakeBackUpModel(const QuotaDetailBk& detail, const std::string& deviceName,
 // devices that were dropped still count.
 std::shared_ptr<CloudSpaceItem> MakeBackupItem(const std::vector<BackUpModel>& models, int64_t total)
 {
-    auto item = std::make_shared<CloudSpaceItem>();
-    item->type = CloudBackUp;
-    item->sortType = CloudBackUp;
+    auto item = NewCategoryItem(CloudBackUp);
     item->count = std::to_string(models.size());
     item->space = total;
     return item;
 }
+
+// The device ids as the quota query takes them: bare, between brackets.
+std::string BareIdList(const std::vector<std::string>& ids)
+{
+    std::string text = "[";
+    for (const std::string& id : ids) {
+        text += id + ",";
+    }
+    text.pop_back();
+    return text + "]";
+}
+
+// What tells the two generations apart once their devices are known: the
+// log lines, and where a device's display name comes from.
+struct GenerationTail
+{
+    const char* deviceCountLine;
+    std::string (*quotaLine)(const GetQuotaUsedInfoResponseBk& reply);
+    const char* modelCountLine;
+    const char* endLine;
+};
+
+std::string VersionThreeQuotaLine(const GetQuotaUsedInfoResponseBk& reply)
+{
+    return "v3 query backupData retCode" + std::to_string(reply.retCode) +
+           " used Size:" + std::to_string(reply.used);
+}
+
+std::string VersionOneQuotaLine(const GetQuotaUsedInfoResponseBk&)
+{
+    return "v1 query backupData GetQuotaUsedInfo reCode:";
+}
+
+const GenerationTail kVersionThreeTail{
+    "v3 query backupData listDev Size:", VersionThreeQuotaLine,
+    "v3 query backupData lstBackUpModel Size:", "v3 query backupData end."};
+// The closing line repeats the opening one; log readers expect it.
+const GenerationTail kVersionOneTail{
+    "v1 query backupData deviceIdCount Size:", VersionOneQuotaLine,
+    "v1 query backupData lstBackUpModel Size:", "v1 query backupData start."};
 
 std::shared_ptr<GetQuotaUsedInfoResponseBk> QueryDeviceQuota(const std::string& deviceText,
                                                              const std::string& token)
@@ -64,113 +106,106 @@ std::shared_ptr<GetQuotaUsedInfoResponseBk> QueryDeviceQuota(const std::string& 
         std::make_shared<PostableString>(ToFormText(MakeDeviceQuotaQuery(token, deviceText))));
 }
 
+// The end both generations share: one quota query for the named devices,
+// a row per device with bytes, and the category's item when any row is left.
+void FinishFromDeviceQuota(const GenerationTail& tail, const std::vector<std::string>& deviceIds,
+                           const std::string& token,
+                           const std::function<std::string(const QuotaDetailBk&)>& deviceNameOf,
+                           BackupData& result)
+{
+    SPACE_LOG_INFO(kFunction, tail.deviceCountLine);
+    std::vector<BackUpModel> models;
+    int64_t total = 0;
+    if (!deviceIds.empty()) {
+        const auto reply = QueryDeviceQuota(BareIdList(deviceIds), token);
+        if (reply && reply->retCode == 0 && reply->used > 0) {
+            SPACE_LOG_INFO(kFunction, tail.quotaLine(*reply));
+            total = reply->used;
+            for (const QuotaDetailBk& detail : reply->quotaDetails) {
+                BackUpModel model;
+                if (MakeBackUpModel(detail, deviceNameOf(detail), model)) {
+                    models.push_back(model);
+                }
+            }
+        }
+    }
+    SPACE_LOG_INFO(kFunction, tail.modelCountLine);
+    if (!models.empty()) {
+        result.item = MakeBackupItem(models, total);
+    }
+    result.models = models;
+    SPACE_LOG_INFO(kFunction, tail.endLine);
+}
+
+// Version 3: the host names the devices, and a later deletion goes back
+// through the host.
+void QueryVersionThree(CloudSpaceManagementViewModel& viewModel, HostAnswerEvent& event, BackupData& result)
+{
+    viewModel.deviceList = NewRetainedDeviceList();
+    viewModel.backupIsV3 = true;
+    SPACE_LOG_INFO(kFunction, "v3 query backupData start.");
+    event.Ask(viewModel.tipWindow, viewModel.tipDeviceListMessage, viewModel.deviceList);
+    const std::string token = CurrentAccessTokenUtf8();
+    if (viewModel.deviceList == nullptr) {
+        SPACE_LOG_ERROR(kFunction, "get v3 list failed.");
+        return;
+    }
+    const std::vector<BackupDevListSt>& devices = *viewModel.deviceList;
+    std::vector<std::string> deviceIds;
+    for (const BackupDevListSt& device : devices) {
+        deviceIds.push_back(device.deviceId);
+    }
+    FinishFromDeviceQuota(
+        kVersionThreeTail, deviceIds, token,
+        [&viewModel, &devices](const QuotaDetailBk& detail) {
+            return viewModel.CompareDeviceId(devices, detail);
+        },
+        result);
+}
+
+// Version 1: the backup service names the devices, and `backupDeviceIds`
+// keeps what a later deletion by request needs.
+void QueryVersionOne(CloudSpaceManagementViewModel& viewModel, BackupData& result)
+{
+    viewModel.backupIsV3 = false;
+    SPACE_LOG_INFO(kFunction, "v1 query backupData start.");
+    const auto records =
+        RunRequest<QueryAllBackUpResponse>(&kCbsType0, MakeQueryAllDevicesBackupRecordReqRequest());
+    std::unordered_set<std::string> deviceIdSet;
+    std::map<std::string, std::string> names;
+    if (records && !records->backupRecords.empty()) {
+        SPACE_LOG_INFO(kFunction, "v1 query backupData QueryAllDevicesBackupRecord Size:");
+        // Insertion keeps an existing key: a device's first record wins, and
+        // ids from earlier loads stay.
+        for (const BackupRecord& record : records->backupRecords) {
+            deviceIdSet.insert(record.backupDeviceId);
+            names.emplace(record.backupDeviceId, record.device.devDisplayName);
+            viewModel.backupDeviceIds.emplace(record.backupDeviceId, record.device.deviceId);
+        }
+    }
+    const std::string token = CurrentAccessTokenUtf8();
+    // The set's own order: the service takes the ids in any order.
+    const std::vector<std::string> deviceIds(deviceIdSet.begin(), deviceIdSet.end());
+    FinishFromDeviceQuota(
+        kVersionOneTail, deviceIds, token,
+        [&names](const QuotaDetailBk& detail) { return names[detail.deviceId]; }, result);
+}
+
 } // namespace
 
 std::shared_ptr<BackupData> CloudSpaceManagementViewModel::GetBackUpData()
 {
     auto result = std::make_shared<BackupData>();
-    const HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    HostAnswerEvent event;
     std::string version;
-    SendMessageW(tipWindow, tipVersionMessage, reinterpret_cast<WPARAM>(event),
-                 reinterpret_cast<LPARAM>(&version));
-    WaitForSingleObject(event, INFINITE);
-
+    event.Ask(tipWindow, tipVersionMessage, &version);
     if (version == "v3queryfailed") {
-        CloseHandle(event);
         SPACE_LOG_ERROR(kFunction, "v3 query failed.");
-        return result;
-    }
-
-    std::vector<BackUpModel> models;
-    int64_t total = 0;
-    if (version == "v3") {
-        deviceList = NewRetainedDeviceList();
-        backupIsV3 = true;
-        SPACE_LOG_INFO(kFunction, "v3 query backupData start.");
-        SendMessageW(tipWindow, tipDeviceListMessage, reinterpret_cast<WPARAM>(event),
-                     reinterpret_cast<LPARAM>(deviceList));
-        WaitForSingleObject(event, INFINITE);
-        const std::string token = CurrentAccessTokenUtf8();
-        if (deviceList == nullptr) {
-            CloseHandle(event);
-            SPACE_LOG_ERROR(kFunction, "get v3 list failed.");
-            return result;
-        }
-        // The ids stand bare between the brackets, as the service takes them.
-        std::string deviceText = "[";
-        for (const BackupDevListSt& device : *deviceList) {
-            deviceText += device.deviceId + ",";
-        }
-        deviceText.pop_back();
-        deviceText += "]";
-        SPACE_LOG_INFO(kFunction, "v3 query backupData listDev Size:");
-        if (!deviceList->empty()) {
-            const auto reply = QueryDeviceQuota(deviceText, token);
-            if (reply && reply->retCode == 0 && reply->used > 0) {
-                SPACE_LOG_INFO(kFunction, "v3 query backupData retCode" + std::to_string(reply->retCode) +
-                                              " used Size:" + std::to_string(reply->used));
-                total = reply->used;
-                for (const QuotaDetailBk& detail : reply->quotaDetails) {
-                    BackUpModel model;
-                    if (MakeBackUpModel(detail, CompareDeviceId(*deviceList, detail), model)) {
-                        models.push_back(model);
-                    }
-                }
-            }
-        }
-        SPACE_LOG_INFO(kFunction, "v3 query backupData lstBackUpModel Size:");
-        if (!models.empty()) {
-            result->item = MakeBackupItem(models, total);
-        }
-        result->models = models;
-        SPACE_LOG_INFO(kFunction, "v3 query backupData end.");
+    } else if (version == "v3") {
+        QueryVersionThree(*this, event, *result);
     } else if (version == "v1") {
-        backupIsV3 = false;
-        SPACE_LOG_INFO(kFunction, "v1 query backupData start.");
-        const auto records =
-            RunRequest<QueryAllBackUpResponse>(&kCbsType0, MakeQueryAllDevicesBackupRecordReqRequest());
-        std::unordered_set<std::string> deviceIds;
-        std::map<std::string, std::string> names;
-        std::string deviceText = "[";
-        if (records && !records->backupRecords.empty()) {
-            SPACE_LOG_INFO(kFunction, "v1 query backupData QueryAllDevicesBackupRecord Size:");
-            // Insertion keeps an existing key: a device's first record wins,
-            // and ids from earlier loads stay.
-            for (const BackupRecord& record : records->backupRecords) {
-                deviceIds.insert(record.backupDeviceId);
-                names.emplace(record.backupDeviceId, record.device.devDisplayName);
-                backupDeviceIds.emplace(record.backupDeviceId, record.device.deviceId);
-            }
-            for (const std::string& id : deviceIds) {
-                deviceText += id + ",";
-            }
-            deviceText.pop_back();
-            deviceText += "]";
-        }
-        const std::string token = CurrentAccessTokenUtf8();
-        SPACE_LOG_INFO(kFunction, "v1 query backupData deviceIdCount Size:");
-        if (!deviceIds.empty()) {
-            const auto reply = QueryDeviceQuota(deviceText, token);
-            if (reply && reply->retCode == 0 && reply->used > 0) {
-                SPACE_LOG_INFO(kFunction, "v1 query backupData GetQuotaUsedInfo reCode:");
-                total = reply->used;
-                for (const QuotaDetailBk& detail : reply->quotaDetails) {
-                    BackUpModel model;
-                    if (MakeBackUpModel(detail, names[detail.deviceId], model)) {
-                        models.push_back(model);
-                    }
-                }
-            }
-        }
-        SPACE_LOG_INFO(kFunction, "v1 query backupData lstBackUpModel Size:");
-        if (!models.empty()) {
-            result->item = MakeBackupItem(models, total);
-        }
-        result->models = models;
-        // The closing line repeats the opening one; log readers expect it.
-        SPACE_LOG_INFO(kFunction, "v1 query backupData start.");
+        QueryVersionOne(*this, *result);
     }
-    CloseHandle(event);
     return result;
 }
 

@@ -5,7 +5,6 @@
 #include <chrono>
 #include <cstdlib>
 #include <fstream>
-#include <memory>
 
 #include "foundation/utilities.h"
 #include "platform/any_basic_http_lib_context.h"
@@ -145,13 +144,7 @@ void CloudSpaceQuery::GetItemsColor(const Json::Value& items)
 
 bool CloudSpaceQuery::StringToJson(const std::string& text, Json::Value& out)
 {
-    if (text.empty()) {
-        return false;
-    }
-    Json::CharReaderBuilder builder;
-    std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
-    std::string errors;
-    return reader->parse(text.data(), text.data() + text.size(), &out, &errors);
+    return !text.empty() && ParseJson(text, out);
 }
 
 long long CloudSpaceQuery::GetSpaceLength(const std::string& url)

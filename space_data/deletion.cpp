@@ -3,24 +3,17 @@
 // all harassment filter records. Each blocks the window thread until the
 // service or the host answers, and writes no log line.
 #include <algorithm>
-#include <cctype>
 #include <string>
 #include <vector>
 
 #include "foundation/request_catalogue.h"
-#include "platform/global_param_wrapper.h"
 #include "request/run_request.h"
+#include "space_data/category_folders.h"
 #include "space_data/cloud_space_view_model.h"
+#include "space_data/host_answer_event.h"
 #include "space_data/session_token.h"
 
 namespace {
-
-std::string Lower(std::string text)
-{
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return text;
-}
 
 bool Succeeded(const std::shared_ptr<BaseRsp>& reply)
 {
@@ -36,12 +29,12 @@ DeleteResult CloudSpaceManagementViewModel::DeleteBackUp(const BackUpModel& mode
     if (!backupIsV3) {
         return DeleteBackItem(model);
     }
-    const HANDLE event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+    // The host replaces the device id by the outcome.
     std::string outcome = request->deviceId;
-    SendMessageW(tipWindow, tipDeleteMessage, reinterpret_cast<WPARAM>(event),
-                 reinterpret_cast<LPARAM>(&outcome));
-    WaitForSingleObject(event, INFINITE);
-    CloseHandle(event);
+    {
+        HostAnswerEvent event;
+        event.Ask(tipWindow, tipDeleteMessage, &outcome);
+    }
     if (outcome == "success") {
         DeleteLIstBK(model);
         return DeleteSuccess;
@@ -59,13 +52,8 @@ DeleteResult CloudSpaceManagementViewModel::DeleteBackItem(const BackUpModel& mo
     if (!Succeeded(reply)) {
         return DeleteFailed;
     }
-    auto& backups = this->model->backups;
-    const auto row = std::find_if(backups.begin(), backups.end(), [&model](const BackUpModel& candidate) {
-        return candidate.deviceId == model.deviceId;
-    });
-    if (row != backups.end()) {
-        backups.erase(row);
-    }
+    // A row that another deletion already took is a success all the same.
+    DeleteLIstBK(model);
     return DeleteSuccess;
 }
 
@@ -103,19 +91,9 @@ DeleteResult CloudSpaceManagementViewModel::DeleteMessage(CloudSpaceType type)
 
 DeleteResult CloudSpaceManagementViewModel::DeleteHarassmentInterception()
 {
-    const bool china = GlobalParamWrapper::GetCountryCode() == L"CN";
-    const std::string root = china ? "/Nuvora" : "/BlockedBackup";
-    const auto listing =
-        RunRequest<NSPFilesResponse>(&kNspRequestType6, MakeNspFolders(CurrentAccessTokenUtf8(), {root}, ""));
-
-    std::vector<std::string> paths;
-    if (listing && listing->fileList) {
-        for (const auto& entry : *listing->fileList) {
-            if (entry) {
-                paths.push_back(china ? entry->name + "/sysdata" : entry->name);
-            }
-        }
-    }
+    // The same folders and files as the category's space road.
+    const std::vector<std::string> paths =
+        FolderPaths(ListCategoryRoot(CurrentAccessTokenUtf8(), kHarassmentFolders), kHarassmentFolders);
 
     std::vector<std::string> deleteList;
     if (!paths.empty()) {
@@ -123,8 +101,7 @@ DeleteResult CloudSpaceManagementViewModel::DeleteHarassmentInterception()
                                                         MakeNspFiles(CurrentAccessTokenUtf8(), paths, ""));
         if (files && files->fileList) {
             for (const auto& file : *files->fileList) {
-                if (file && file->type == "File" &&
-                    Lower(file->name).find("phonemanager") != std::string::npos) {
+                if (IsHarassmentRecord(file)) {
                     deleteList.push_back(file->name);
                 }
             }

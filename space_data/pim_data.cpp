@@ -3,26 +3,69 @@
 #include <algorithm>
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #include "foundation/request_catalogue.h"
 #include "request/postable_string.h"
 #include "request/run_request.h"
+#include "space_data/category_item.h"
 #include "space_data/cloud_space_view_model.h"
 #include "space_data/space_log.h"
 
 namespace {
 
-std::shared_ptr<CloudSpaceItem> NewItem(CloudSpaceType type)
-{
-    auto item = std::make_shared<CloudSpaceItem>();
-    item->type = type;
-    item->sortType = type;
-    return item;
-}
-
 bool HasData(const std::shared_ptr<StatisticResponse>& reply)
 {
     return reply && reply->data && !reply->data->empty();
+}
+
+// The log texts of one category's statistics query; each category words
+// them its own way.
+struct StatisticQueryLines
+{
+    const char* function;
+    const char* noReply;
+    const char* codePrefix;
+    const char* infoSeparator;
+};
+
+// The statistics reply of a version 1 category. A refused or missing reply
+// is logged; a refusal gives null, a reply without its result record comes
+// back as it is, so that the reader goes by its data alone.
+std::shared_ptr<StatisticResponse> QueryStatistics(const PimdsType& row, const StatisticQueryLines& lines)
+{
+    auto reply = RunRequest<StatisticResponse>(&row, nullptr);
+    if (!reply || !reply->result) {
+        SPACE_LOG_ERROR(lines.function, lines.noReply);
+        return reply;
+    }
+    if (reply->result->code != 0) {
+        SPACE_LOG_ERROR(lines.function, lines.codePrefix + std::to_string(reply->result->code) +
+                                            lines.infoSeparator + reply->result->info);
+        return nullptr;
+    }
+    return reply;
+}
+
+// The counts of one category in a statistics reply: `countSource` and the
+// bin's source each replace the value before, so the last entry wins.
+struct SourceCounts
+{
+    int count = 0;
+    int binCount = 0;
+};
+
+SourceCounts CountsOf(const std::vector<DataObject>& data, const char* countSource, const char* binSource)
+{
+    SourceCounts counts;
+    for (const DataObject& entry : data) {
+        if (entry.source == countSource) {
+            counts.count = entry.sumNum;
+        } else if (entry.source == binSource) {
+            counts.binCount = entry.sumNum;
+        }
+    }
+    return counts;
 }
 
 } // namespace
@@ -69,35 +112,16 @@ int CloudSpaceManagementViewModel::GetNumFromPIMDS(const PimdsType& type)
 
 std::shared_ptr<StatisticResponse> CloudSpaceManagementViewModel::GetContactNumFromPIMDS()
 {
-    constexpr const char* kFunction = "CloudSpaceManagementViewModel::GetContactNumFromPIMDS";
-    auto reply = RunRequest<StatisticResponse>(&kPimdsType0, nullptr);
-    if (!reply || !reply->result) {
-        SPACE_LOG_ERROR(kFunction, "QueryContactCount Query PIMDS Failed Response is null.");
-        return reply;
-    }
-    if (reply->result->code != 0) {
-        SPACE_LOG_ERROR(kFunction, "QueryContactCount Query PIMDS Failed Code : " +
-                                       std::to_string(reply->result->code) + ", info:" + reply->result->info);
-        return nullptr;
-    }
-    return reply;
+    return QueryStatistics(kPimdsType0, {"CloudSpaceManagementViewModel::GetContactNumFromPIMDS",
+                                         "QueryContactCount Query PIMDS Failed Response is null.",
+                                         "QueryContactCount Query PIMDS Failed Code : ", ", info:"});
 }
 
 std::shared_ptr<StatisticResponse> CloudSpaceManagementViewModel::GetBrowserNumFromPIMDS()
 {
-    constexpr const char* kFunction = "CloudSpaceManagementViewModel::GetBrowserNumFromPIMDS";
-    auto reply = RunRequest<StatisticResponse>(&kPimdsType4, nullptr);
-    if (!reply || !reply->result) {
-        SPACE_LOG_ERROR(kFunction, "QueryBrowserCount Query PIMDS Failed Response is null");
-        return reply;
-    }
-    if (reply->result->code != 0) {
-        SPACE_LOG_ERROR(kFunction,
-                        "QueryBrowserCount Query PIMDS Failed Code : " + std::to_string(reply->result->code) +
-                            ", info: " + reply->result->info);
-        return nullptr;
-    }
-    return reply;
+    return QueryStatistics(kPimdsType4, {"CloudSpaceManagementViewModel::GetBrowserNumFromPIMDS",
+                                         "QueryBrowserCount Query PIMDS Failed Response is null",
+                                         "QueryBrowserCount Query PIMDS Failed Code : ", ", info: "});
 }
 
 void CloudSpaceManagementViewModel::GetV1ContactData(std::shared_ptr<CloudSpaceItem>& item)
@@ -106,22 +130,14 @@ void CloudSpaceManagementViewModel::GetV1ContactData(std::shared_ptr<CloudSpaceI
     if (!HasData(reply)) {
         return;
     }
-    int count = 0;
-    int binCount = 0;
-    for (const DataObject& entry : *reply->data) {
-        if (entry.source == "contact") {
-            count = entry.sumNum;
-        } else if (entry.source == "recycleContact") {
-            binCount = entry.sumNum;
-        }
-    }
-    count = std::max(count, 0);
+    const SourceCounts counts = CountsOf(*reply->data, "contact", "recycleContact");
+    const int count = std::max(counts.count, 0);
     if (count <= 0) {
         return;
     }
-    item = NewItem(Contact);
+    item = NewCategoryItem(Contact);
     item->count = std::to_string(count);
-    item->recycle = std::max(binCount, 0);
+    item->recycle = std::max(counts.binCount, 0);
 }
 
 void CloudSpaceManagementViewModel::GetV1BrowserData(std::shared_ptr<CloudSpaceItem>& item)
@@ -130,7 +146,7 @@ void CloudSpaceManagementViewModel::GetV1BrowserData(std::shared_ptr<CloudSpaceI
     if (!reply || !reply->data) {
         return;
     }
-    item = NewItem(Browser);
+    item = NewCategoryItem(Browser);
     int64_t total = 0;
     for (const DataObject& entry : *reply->data) {
         if (entry.source == "browser") {
@@ -165,27 +181,20 @@ void CloudSpaceManagementViewModel::GetV1NotepadData(std::shared_ptr<CloudSpaceI
         space = folder ? std::max<int64_t>(std::atoi(folder->space.c_str()), 0) : 0;
     }
 
-    int count = 0;
-    int binCount = 0;
+    SourceCounts counts;
     const auto statistics = RunRequest<StatisticResponse>(&kPimdsType3, nullptr);
     if (statistics && statistics->result && statistics->result->code == 0 && HasData(statistics)) {
         SPACE_LOG_INFO(kFunction, "Getting notepad v1 data success.");
-        for (const DataObject& entry : *statistics->data) {
-            if (entry.source == "notepad") {
-                count = entry.sumNum;
-            } else if (entry.source == "recycleNotepad") {
-                binCount = entry.sumNum;
-            }
-        }
+        counts = CountsOf(*statistics->data, "notepad", "recycleNotepad");
     }
 
     // Either source alone is enough for a row; bytes without a count show
     // a count of "0".
-    if (space > 0 || count > 0) {
-        item = NewItem(Notepad);
-        item->count = std::to_string(count);
+    if (space > 0 || counts.count > 0) {
+        item = NewCategoryItem(Notepad);
+        item->count = std::to_string(counts.count);
         item->space = space;
-        item->recycle = binCount;
+        item->recycle = counts.binCount;
     }
 }
 
@@ -247,7 +256,7 @@ void CloudSpaceManagementViewModel::GetV2PimData(std::shared_ptr<CloudSpaceItem>
         }
     }
     if (count > 0) {
-        item = NewItem(type);
+        item = NewCategoryItem(type);
         item->space = space;
         item->count = std::to_string(count);
         item->recycle = binCount;
