@@ -238,8 +238,10 @@ std::vector<std::string> ListedFolders(const std::string& token, const CategoryF
 }
 
 // Bytes and files of the recording folders; a row needs both.
-ItemPointer RecorderItem(const std::shared_ptr<NSPFoldersResponse>& folders)
+ItemPointer ReadRecorderFolders(const std::string& token, const std::vector<std::string>& paths)
 {
+    const auto folders = RunRequest<NSPFoldersResponse>(
+        &kNspRequestType6, MakeNspGetAttr(token, paths, {"name", "space", "fileCount"}));
     int64_t spaceTotal = 0;
     int64_t fileTotal = 0;
     if (folders && folders->successList) {
@@ -262,21 +264,10 @@ ItemPointer RecorderItem(const std::shared_ptr<NSPFoldersResponse>& folders)
     return item;
 }
 
-ItemPointer RecorderRoad(CloudSpaceManagementViewModel&, const std::string& token)
+// The bytes of the harassment filter records among the folders' files.
+ItemPointer ReadHarassmentFolders(const std::string& token, const std::vector<std::string>& paths)
 {
-    SPACE_LOG_INFO(kFunction, "Getting Item Space: Recorder starts.");
-    ItemPointer result;
-    const std::vector<std::string> paths = ListedFolders(token, kRecorderFolders);
-    if (!paths.empty()) {
-        result = RecorderItem(RunRequest<NSPFoldersResponse>(
-            &kNspRequestType6, MakeNspGetAttr(token, paths, {"name", "space", "fileCount"})));
-    }
-    SPACE_LOG_INFO(kFunction, "Getting Item Space: Recorder ends.");
-    return result;
-}
-
-ItemPointer HarassmentInterceptionItem(const std::shared_ptr<NSPFilesResponse>& files)
-{
+    const auto files = RunRequest<NSPFilesResponse>(&kNspRequestType6, MakeNspFiles(token, paths, ""));
     int64_t total = 0;
     if (HasFiles(files)) {
         SPACE_LOG_INFO(kFunction, "Getting NSPFilesResponse successfully.");
@@ -295,16 +286,31 @@ ItemPointer HarassmentInterceptionItem(const std::shared_ptr<NSPFilesResponse>& 
     return item;
 }
 
-ItemPointer HarassmentInterceptionRoad(CloudSpaceManagementViewModel&, const std::string& token)
+// A category kept as files: list its root, then read the folders found.
+struct FolderRoad
 {
-    SPACE_LOG_INFO(kFunction, "Getting Item Space: HarassmentInterception starts.");
+    const char* startLine;
+    const CategoryFolders& folders;
+    ItemPointer (*readFolders)(const std::string& token, const std::vector<std::string>& paths);
+    const char* endLine;
+};
+
+const FolderRoad kRecorderRoad{"Getting Item Space: Recorder starts.", kRecorderFolders, ReadRecorderFolders,
+                               "Getting Item Space: Recorder ends."};
+const FolderRoad kHarassmentInterceptionRoad{"Getting Item Space: HarassmentInterception starts.",
+                                             kHarassmentFolders, ReadHarassmentFolders,
+                                             "Getting Item Space: HarassmentInterception ends."};
+
+template <const FolderRoad& road>
+ItemPointer StoredAsFilesRoad(CloudSpaceManagementViewModel&, const std::string& token)
+{
+    SPACE_LOG_INFO(kFunction, road.startLine);
     ItemPointer result;
-    const std::vector<std::string> paths = ListedFolders(token, kHarassmentFolders);
+    const std::vector<std::string> paths = ListedFolders(token, road.folders);
     if (!paths.empty()) {
-        result = HarassmentInterceptionItem(
-            RunRequest<NSPFilesResponse>(&kNspRequestType6, MakeNspFiles(token, paths, "")));
+        result = road.readFolders(token, paths);
     }
-    SPACE_LOG_INFO(kFunction, "Getting Item Space: HarassmentInterception ends.");
+    SPACE_LOG_INFO(kFunction, road.endLine);
     return result;
 }
 
@@ -352,9 +358,9 @@ const CategoryRoad kCategoryRoads[] = {
     {Notepad, VersionedRoad<kNotepadRoad>},
     {Gallery, GalleryRoad},
     {CloudDisk, CloudDiskRoad},
-    {Recorder, RecorderRoad},
+    {Recorder, StoredAsFilesRoad<kRecorderRoad>},
     {Browser, VersionedRoad<kBrowserRoad>},
-    {HarassmentInterception, HarassmentInterceptionRoad},
+    {HarassmentInterception, StoredAsFilesRoad<kHarassmentInterceptionRoad>},
     {Message, CountedRoad<kMessageRoad>},
     {Phone, CountedRoad<kPhoneRoad>},
     {Wlan, VersionedRoad<kWlanRoad>},

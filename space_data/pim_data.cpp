@@ -68,6 +68,24 @@ SourceCounts CountsOf(const std::vector<DataObject>& data, const char* countSour
     return counts;
 }
 
+// The word for a version 2 category in the reader's log lines; null for a
+// category the version 2 query does not serve. It is only a word: the query
+// asks for "[note]" where the log says "notepad".
+const char* VersionTwoKindWord(CloudSpaceType type)
+{
+    static constexpr struct
+    {
+        CloudSpaceType type;
+        const char* word;
+    } kWords[] = {{Contact, "contact"}, {Notepad, "notepad"}, {Wlan, "wlan"}, {Calendar, "calendar"}};
+    for (const auto& entry : kWords) {
+        if (entry.type == type) {
+            return entry.word;
+        }
+    }
+    return nullptr;
+}
+
 } // namespace
 
 std::string CloudSpaceManagementViewModel::GetPimDataVersion(const AdvancedIntEnumType& type)
@@ -208,25 +226,10 @@ void CloudSpaceManagementViewModel::GetSpaceFromPim(std::string kinds, std::stri
     query.accessToken = token;
     const auto reply = RunRequest<GetQuotaUsedInfoResponseBk>(
         &kFamilyShareType0, std::make_shared<PostableString>(ToFormText(query)));
-    switch (type) {
-    case Contact:
-        GetV2PimData(item, reply, type, "contact");
-        break;
-    case Notepad:
-        // The query asks for "[note]"; the log calls the category notepad.
-        GetV2PimData(item, reply, type, "notepad");
-        break;
-    case Browser:
+    if (type == Browser) {
         GetV2BrowserData(item, reply, type);
-        break;
-    case Wlan:
-        GetV2PimData(item, reply, type, "wlan");
-        break;
-    case Calendar:
-        GetV2PimData(item, reply, type, "calendar");
-        break;
-    default:
-        break;
+    } else if (const char* kind = VersionTwoKindWord(type)) {
+        GetV2PimData(item, reply, type, kind);
     }
 }
 
