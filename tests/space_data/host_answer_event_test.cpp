@@ -36,19 +36,25 @@ struct RecordingHost
     }
 };
 
+// A host window on its own thread that answers at once.
+class AnsweringHost : public ::testing::Test
+{
+protected:
+    RecordingHost host_;
+    WindowThread window_{
+        [this](HWND, UINT msg, WPARAM wParam, LPARAM lParam) { return host_.Answer(msg, wParam, lParam); }};
+};
+
 } // namespace
 
-TEST(HostAnswerEvent, AskHandsTheHostTheEventAndTheDataAndReturnsWithItsAnswer)
+TEST_F(AnsweringHost, AskHandsTheHostTheEventAndTheDataAndReturnsWithItsAnswer)
 {
-    RecordingHost host;
-    WindowThread window(
-        [&host](HWND, UINT msg, WPARAM wParam, LPARAM lParam) { return host.Answer(msg, wParam, lParam); });
     std::string version;
     HostAnswerEvent event;
-    event.Ask(window.Hwnd(), kVersion, &version);
+    event.Ask(window_.Hwnd(), kVersion, &version);
     EXPECT_EQ(version, "v3");
-    ASSERT_EQ(host.events.size(), 1u);
-    EXPECT_NE(host.events.front(), nullptr);
+    ASSERT_EQ(host_.events.size(), 1u);
+    EXPECT_NE(host_.events.front(), nullptr);
 }
 
 TEST(HostAnswerEvent, AskWaitsForAHostThatSetsTheEventLater)
@@ -75,30 +81,24 @@ TEST(HostAnswerEvent, AskWaitsForAHostThatSetsTheEventLater)
     lateAnswer.join();
 }
 
-TEST(HostAnswerEvent, MessagesOfOneQueryShareTheEvent)
+TEST_F(AnsweringHost, MessagesOfOneQueryShareTheEvent)
 {
-    RecordingHost host;
-    WindowThread window(
-        [&host](HWND, UINT msg, WPARAM wParam, LPARAM lParam) { return host.Answer(msg, wParam, lParam); });
     std::string version;
     std::vector<int> devices;
     HostAnswerEvent event;
-    event.Ask(window.Hwnd(), kVersion, &version);
-    event.Ask(window.Hwnd(), kDeviceList, &devices);
-    ASSERT_EQ(host.events.size(), 2u);
-    EXPECT_EQ(host.events[0], host.events[1]);
+    event.Ask(window_.Hwnd(), kVersion, &version);
+    event.Ask(window_.Hwnd(), kDeviceList, &devices);
+    ASSERT_EQ(host_.events.size(), 2u);
+    EXPECT_EQ(host_.events[0], host_.events[1]);
 }
 
-TEST(HostAnswerEvent, TheEventIsClosedWhenTheHolderGoes)
+TEST_F(AnsweringHost, TheEventIsClosedWhenTheHolderGoes)
 {
-    RecordingHost host;
-    WindowThread window(
-        [&host](HWND, UINT msg, WPARAM wParam, LPARAM lParam) { return host.Answer(msg, wParam, lParam); });
     std::string version;
     {
         HostAnswerEvent event;
-        event.Ask(window.Hwnd(), kVersion, &version);
+        event.Ask(window_.Hwnd(), kVersion, &version);
     }
-    ASSERT_EQ(host.events.size(), 1u);
-    EXPECT_FALSE(CloseHandle(host.events.front())) << "the holder left its event open";
+    ASSERT_EQ(host_.events.size(), 1u);
+    EXPECT_FALSE(CloseHandle(host_.events.front())) << "the holder left its event open";
 }
