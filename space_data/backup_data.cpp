@@ -69,8 +69,7 @@ std::string BareIdList(const std::vector<std::string>& ids)
     return text + "]";
 }
 
-// What tells the two generations apart once their devices are known: the
-// log lines, and where a device's display name comes from.
+// The log lines of one generation's end; the end itself is shared.
 struct GenerationTail
 {
     const char* deviceCountLine;
