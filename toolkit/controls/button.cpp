@@ -121,58 +121,68 @@ void CButtonUI::DoEvent(TEventUI& event)
 
 void CButtonUI::SetNormalImage(LPCTSTR image)
 {
-    m_sNormalImage = image;
-    Invalidate();
+    if (Assign(m_sNormalImage, CDuiString(image)))
+        Invalidate();
 }
+
 void CButtonUI::SetHotImage(LPCTSTR image)
 {
-    m_sHotImage = image;
-    Invalidate();
+    if (Assign(m_sHotImage, CDuiString(image)))
+        Invalidate();
 }
+
 void CButtonUI::SetPushedImage(LPCTSTR image)
 {
-    m_sPushedImage = image;
-    Invalidate();
+    if (Assign(m_sPushedImage, CDuiString(image)))
+        Invalidate();
 }
+
 void CButtonUI::SetDisabledImage(LPCTSTR image)
 {
-    m_sDisabledImage = image;
-    Invalidate();
+    if (Assign(m_sDisabledImage, CDuiString(image)))
+        Invalidate();
 }
+
 void CButtonUI::SetFocusedImage(LPCTSTR image)
 {
-    m_sFocusedImage = image;
-    Invalidate();
+    if (Assign(m_sFocusedImage, CDuiString(image)))
+        Invalidate();
 }
+
 void CButtonUI::SetHotBkColor(DWORD color)
 {
-    m_dwHotBkColor = color;
-    Invalidate();
+    if (Assign(m_dwHotBkColor, color))
+        Invalidate();
 }
+
 void CButtonUI::SetPushedBkColor(DWORD color)
 {
-    m_dwPushedBkColor = color;
-    Invalidate();
+    if (Assign(m_dwPushedBkColor, color))
+        Invalidate();
 }
+
 void CButtonUI::SetDisabledBkColor(DWORD color)
 {
-    m_dwDisabledBkColor = color;
-    Invalidate();
+    if (Assign(m_dwDisabledBkColor, color))
+        Invalidate();
 }
+
 void CButtonUI::SetHotTextColor(DWORD color)
 {
-    m_dwHotTextColor = color;
-    Invalidate();
+    if (Assign(m_dwHotTextColor, color))
+        Invalidate();
 }
+
 void CButtonUI::SetPushedTextColor(DWORD color)
 {
-    m_dwPushedTextColor = color;
-    Invalidate();
+    if (Assign(m_dwPushedTextColor, color))
+        Invalidate();
 }
+
 void CButtonUI::SetFocusedTextColor(DWORD color)
 {
-    m_dwFocusedTextColor = color;
-    Invalidate();
+    if (Assign(m_dwFocusedTextColor, color))
+        Invalidate();
 }
 
 DWORD CButtonUI::CurrentTextColor() const

@@ -7,37 +7,6 @@
 
 namespace DuiLib {
 
-namespace {
-
-constexpr int kWheelStep = 40; // logical pixels per wheel notch
-constexpr DWORD kThumbColor = 0x66000000;
-
-UINT ParseHorizontalAlign(const wchar_t* name, const wchar_t* value)
-{
-    const std::wstring v = value;
-    if (v == L"left")
-        return DT_LEFT;
-    if (v == L"center")
-        return DT_CENTER;
-    if (v == L"right")
-        return DT_RIGHT;
-    throw AttributeError(AttributeError::Kind::BadValue, name, value);
-}
-
-UINT ParseVerticalAlign(const wchar_t* name, const wchar_t* value)
-{
-    const std::wstring v = value;
-    if (v == L"top")
-        return DT_TOP;
-    if (v == L"vcenter" || v == L"center")
-        return DT_VCENTER;
-    if (v == L"bottom")
-        return DT_BOTTOM;
-    throw AttributeError(AttributeError::Kind::BadValue, name, value);
-}
-
-} // namespace
-
 CContainerUI::CContainerUI() : m_layout(std::make_unique<StackLayout>()) {}
 
 CContainerUI::CContainerUI(std::unique_ptr<LayoutStrategy> layout) : m_layout(std::move(layout)) {}
@@ -156,72 +125,6 @@ void CContainerUI::SetChildPadding(int iPadding)
     NeedUpdate();
 }
 
-void CContainerUI::EnableScrollBar(bool bEnableVertical)
-{
-    if (m_bVScroll == bEnableVertical)
-        return;
-    m_bVScroll = bEnableVertical;
-    if (!m_bVScroll)
-        m_iScrollY = 0;
-    NeedUpdate();
-}
-
-int CContainerUI::GetScrollRange() const
-{
-    const int viewport = (m_rcItem.bottom - m_rcItem.top) - m_rcInset.top - m_rcInset.bottom;
-    return std::max(0, m_iContentHeight - viewport);
-}
-
-void CContainerUI::SetScrollPos(int y)
-{
-    if (!m_bVScroll)
-        return;
-    y = std::max(0, std::min(y, GetScrollRange()));
-    if (y == m_iScrollY)
-        return;
-    m_iScrollY = y;
-    ArrangeChildren();
-    Invalidate();
-    if (m_pManager != nullptr)
-        m_pManager->SendNotify(this, DUI_MSGTYPE_SCROLL, static_cast<WPARAM>(y));
-}
-
-void CContainerUI::LineUp()
-{
-    SetScrollPos(m_iScrollY - kWheelStep);
-}
-
-void CContainerUI::LineDown()
-{
-    SetScrollPos(m_iScrollY + kWheelStep);
-}
-
-void CContainerUI::EnsureVisible(CControlUI* pControl)
-{
-    if (!m_bVScroll || pControl == nullptr)
-        return;
-    const RECT& r = pControl->GetPos();
-    const int viewTop = m_rcItem.top + m_rcInset.top;
-    const int viewBottom = m_rcItem.bottom - m_rcInset.bottom;
-    if (r.top < viewTop) {
-        SetScrollPos(m_iScrollY - (viewTop - r.top));
-    } else if (r.bottom > viewBottom) {
-        SetScrollPos(m_iScrollY + (r.bottom - viewBottom));
-    }
-}
-
-RECT CContainerUI::GetScrollThumbRect() const
-{
-    const int range = GetScrollRange();
-    if (!m_bVScroll || range <= 0)
-        return RECT{0, 0, 0, 0};
-    const int trackTop = m_rcItem.top + m_rcInset.top;
-    const int trackHeight = (m_rcItem.bottom - m_rcInset.bottom) - trackTop;
-    const int thumbHeight = std::max(20, trackHeight * trackHeight / std::max(1, m_iContentHeight));
-    const int thumbTop = trackTop + (trackHeight - thumbHeight) * m_iScrollY / range;
-    return RECT{m_rcItem.right - kScrollBarWidth, thumbTop, m_rcItem.right - 2, thumbTop + thumbHeight};
-}
-
 CControlUI* CContainerUI::FindSubControl(LPCTSTR pstrSubControlName)
 {
     if (m_pManager != nullptr)
@@ -257,16 +160,10 @@ void CContainerUI::SetManager(CPaintManagerUI* pManager, CControlUI* pParent, bo
 
 CControlUI* CContainerUI::FindControl(FINDCONTROLPROC Proc, LPVOID pData, UINT uFlags)
 {
-    if ((uFlags & UIFIND_VISIBLE) != 0 && !IsVisible())
-        return nullptr;
-    if ((uFlags & UIFIND_ENABLED) != 0 && !IsEnabled())
+    if (!IsSearchedBy(pData, uFlags))
         return nullptr;
     if ((uFlags & UIFIND_HITTEST) != 0) {
         const POINT* pt = static_cast<const POINT*>(pData);
-        if (pt->x < m_rcItem.left || pt->x >= m_rcItem.right || pt->y < m_rcItem.top ||
-            pt->y >= m_rcItem.bottom) {
-            return nullptr;
-        }
         // The scroll bar belongs to the container itself.
         if (m_bVScroll && GetScrollRange() > 0 && pt->x >= m_rcItem.right - kScrollBarWidth) {
             return m_bMouseEnabled ? Proc(this, pData) : nullptr;
@@ -332,40 +229,8 @@ SIZE CContainerUI::EstimateSize(SIZE szAvailable)
 
 void CContainerUI::DoEvent(TEventUI& event)
 {
-    if (m_bVScroll && GetScrollRange() > 0) {
-        if (event.Type == UIEVENT_SCROLLWHEEL) {
-            const short delta = GET_WHEEL_DELTA_WPARAM(event.wParam);
-            const int notches = delta / WHEEL_DELTA != 0 ? delta / WHEEL_DELTA : (delta > 0 ? 1 : -1);
-            SetScrollPos(m_iScrollY - notches * kWheelStep);
-            return;
-        }
-        if (event.Type == UIEVENT_BUTTONDOWN && event.pSender == this) {
-            const RECT thumb = GetScrollThumbRect();
-            if (event.ptMouse.y >= thumb.top && event.ptMouse.y < thumb.bottom) {
-                m_bScrollDragging = true;
-                m_iDragStartY = event.ptMouse.y;
-                m_iDragStartScroll = m_iScrollY;
-            } else {
-                const int page = (m_rcItem.bottom - m_rcItem.top) - m_rcInset.top - m_rcInset.bottom;
-                SetScrollPos(m_iScrollY + (event.ptMouse.y < thumb.top ? -page : page));
-            }
-            return;
-        }
-        if (event.Type == UIEVENT_MOUSEMOVE && m_bScrollDragging) {
-            const RECT thumb = GetScrollThumbRect();
-            const int track = (m_rcItem.bottom - m_rcInset.bottom) - (m_rcItem.top + m_rcInset.top) -
-                              (thumb.bottom - thumb.top);
-            if (track > 0) {
-                SetScrollPos(m_iDragStartScroll +
-                             (event.ptMouse.y - m_iDragStartY) * GetScrollRange() / track);
-            }
-            return;
-        }
-        if (event.Type == UIEVENT_BUTTONUP && m_bScrollDragging) {
-            m_bScrollDragging = false;
-            return;
-        }
-    }
+    if (HandleScrollEvent(event))
+        return;
     CControlUI::DoEvent(event);
 }
 
@@ -392,14 +257,6 @@ void CContainerUI::DoPaint(RenderContext& ctx, const RECT& rcPaint)
     PaintBorder(ctx);
 }
 
-void CContainerUI::PaintScrollBar(RenderContext& ctx)
-{
-    const RECT thumb = GetScrollThumbRect();
-    if (RectIsEmpty(thumb))
-        return;
-    ctx.FillRoundRect(thumb, kThumbColor, SIZE{6, 6});
-}
-
 void CContainerUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
 {
     using Setter = AttributeSetter<CContainerUI>;
@@ -409,9 +266,9 @@ void CContainerUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
         {L"childpadding", [](CContainerUI& c, const wchar_t* n,
                              const wchar_t* v) { c.SetChildPadding(attr::ParseInt(n, v)); }},
         {L"childalign", [](CContainerUI& c, const wchar_t* n,
-                           const wchar_t* v) { c.m_uChildAlign = ParseHorizontalAlign(n, v); }},
+                           const wchar_t* v) { c.m_uChildAlign = attr::ParseHorizontalAlign(n, v); }},
         {L"childvalign", [](CContainerUI& c, const wchar_t* n,
-                            const wchar_t* v) { c.m_uChildVAlign = ParseVerticalAlign(n, v); }},
+                            const wchar_t* v) { c.m_uChildVAlign = attr::ParseVerticalAlign(n, v); }},
         {L"mousechild", [](CContainerUI& c, const wchar_t* n,
                            const wchar_t* v) { c.SetMouseChildEnabled(attr::ParseBool(n, v)); }},
         {L"vscrollbar", [](CContainerUI& c, const wchar_t* n,
@@ -420,139 +277,6 @@ void CContainerUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
     if (ApplyFromTable(table, *this, pstrName, pstrValue))
         return;
     CControlUI::SetAttribute(pstrName, pstrValue);
-}
-
-CVerticalLayoutUI::CVerticalLayoutUI() : CContainerUI(std::make_unique<VerticalStackLayout>()) {}
-
-LPCTSTR CVerticalLayoutUI::GetClass() const
-{
-    return L"VerticalLayoutUI";
-}
-
-LPVOID CVerticalLayoutUI::GetInterface(LPCTSTR pstrName)
-{
-    if (CompareNoCase(pstrName, DUI_CTR_VERTICALLAYOUT) == 0)
-        return static_cast<CVerticalLayoutUI*>(this);
-    return CContainerUI::GetInterface(pstrName);
-}
-
-CHorizontalLayoutUI::CHorizontalLayoutUI() : CContainerUI(std::make_unique<HorizontalStackLayout>()) {}
-
-LPCTSTR CHorizontalLayoutUI::GetClass() const
-{
-    return L"HorizontalLayoutUI";
-}
-
-LPVOID CHorizontalLayoutUI::GetInterface(LPCTSTR pstrName)
-{
-    if (CompareNoCase(pstrName, DUI_CTR_HORIZONTALLAYOUT) == 0)
-        return static_cast<CHorizontalLayoutUI*>(this);
-    return CContainerUI::GetInterface(pstrName);
-}
-
-LPCTSTR CTabLayoutUI::GetClass() const
-{
-    return L"TabLayoutUI";
-}
-
-LPVOID CTabLayoutUI::GetInterface(LPCTSTR pstrName)
-{
-    if (CompareNoCase(pstrName, DUI_CTR_TABLAYOUT) == 0)
-        return static_cast<CTabLayoutUI*>(this);
-    return CContainerUI::GetInterface(pstrName);
-}
-
-bool CTabLayoutUI::Add(CControlUI* pControl)
-{
-    return AddAt(pControl, GetCount());
-}
-
-bool CTabLayoutUI::AddAt(CControlUI* pControl, int iIndex)
-{
-    if (!CContainerUI::AddAt(pControl, iIndex))
-        return false;
-    if (m_iCurSel == -1 && pControl->IsVisible()) {
-        m_iCurSel = GetItemIndex(pControl);
-    } else {
-        if (iIndex <= m_iCurSel)
-            ++m_iCurSel;
-        pControl->SetVisible(false);
-    }
-    return true;
-}
-
-bool CTabLayoutUI::Remove(CControlUI* pControl, bool bDoNotDestroy)
-{
-    const int index = GetItemIndex(pControl);
-    if (index < 0)
-        return false;
-    if (!CContainerUI::RemoveAt(index, bDoNotDestroy))
-        return false;
-    if (index == m_iCurSel) {
-        m_iCurSel = -1;
-        if (GetCount() > 0)
-            SelectItem(std::max(0, index - 1));
-    } else if (index < m_iCurSel) {
-        --m_iCurSel;
-    }
-    return true;
-}
-
-void CTabLayoutUI::RemoveAll()
-{
-    m_iCurSel = -1;
-    CContainerUI::RemoveAll();
-}
-
-bool CTabLayoutUI::SelectItem(int iIndex)
-{
-    // Page switches may come from worker threads (a network watcher); the
-    // tree is only ever changed on the window's thread.
-    if (m_pManager != nullptr && !m_pManager->IsWindowThread()) {
-        bool selected = false;
-        m_pManager->RunOnWindowThread([this, iIndex, &selected] { selected = SelectItem(iIndex); });
-        return selected;
-    }
-    if (iIndex < 0 || iIndex >= GetCount())
-        return false;
-    if (iIndex == m_iCurSel)
-        return true;
-    const int old = m_iCurSel;
-    m_iCurSel = iIndex;
-    for (int i = 0; i < GetCount(); ++i)
-        GetItemAt(i)->SetVisible(i == iIndex);
-    NeedUpdate();
-    Invalidate();
-    if (m_pManager != nullptr) {
-        m_pManager->SendNotify(this, L"tabselect", static_cast<WPARAM>(m_iCurSel), static_cast<LPARAM>(old));
-    }
-    return true;
-}
-
-void CTabLayoutUI::DoInit()
-{
-    if (m_iInitialSel < 0 || m_iInitialSel >= GetCount())
-        return;
-    m_iCurSel = m_iInitialSel;
-    for (int i = 0; i < GetCount(); ++i)
-        GetItemAt(i)->SetVisible(i == m_iCurSel);
-    m_iInitialSel = -1;
-}
-
-bool CTabLayoutUI::SelectItem(CControlUI* pControl)
-{
-    const int index = GetItemIndex(pControl);
-    return index >= 0 && SelectItem(index);
-}
-
-void CTabLayoutUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
-{
-    if (CompareNoCase(pstrName, L"selectedid") == 0) {
-        // Pages are added after the attributes are read; DoInit applies it.
-        m_iInitialSel = attr::ParseInt(pstrName, pstrValue);
-        return;
-    }
-    CContainerUI::SetAttribute(pstrName, pstrValue);
 }
 
 } // namespace DuiLib

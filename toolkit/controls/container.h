@@ -132,6 +132,9 @@ public:
 protected:
     void ArrangeChildren();
     virtual void PaintScrollBar(RenderContext& ctx);
+    // Wheel, thumb drag and track clicks of the scroll bar; true when the
+    // event was the scroll bar's.
+    bool HandleScrollEvent(TEventUI& event);
 
     std::vector<std::unique_ptr<CControlUI>> m_items;
     std::unique_ptr<LayoutStrategy> m_layout;

@@ -64,11 +64,6 @@ const std::unordered_map<std::wstring, Setter>& ControlAttributes()
     return table;
 }
 
-bool SameRect(const RECT& a, const RECT& b)
-{
-    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
-}
-
 } // namespace
 
 CControlUI::CControlUI() = default;
@@ -148,58 +143,44 @@ void CControlUI::SetText(LPCTSTR pstrText)
 
 void CControlUI::SetBkColor(DWORD dwBackColor)
 {
-    if (m_dwBackColor == dwBackColor)
-        return;
-    m_dwBackColor = dwBackColor;
-    Invalidate();
+    if (Assign(m_dwBackColor, dwBackColor))
+        Invalidate();
 }
 
 void CControlUI::SetForeColor(DWORD dwForeColor)
 {
-    if (m_dwForeColor == dwForeColor)
-        return;
-    m_dwForeColor = dwForeColor;
-    Invalidate();
+    if (Assign(m_dwForeColor, dwForeColor))
+        Invalidate();
 }
 
 void CControlUI::SetBorderColor(DWORD dwBorderColor)
 {
-    if (m_dwBorderColor == dwBorderColor)
-        return;
-    m_dwBorderColor = dwBorderColor;
-    Invalidate();
+    if (Assign(m_dwBorderColor, dwBorderColor))
+        Invalidate();
 }
 
 void CControlUI::SetFocusBorderColor(DWORD dwBorderColor)
 {
-    if (m_dwFocusBorderColor == dwBorderColor)
-        return;
-    m_dwFocusBorderColor = dwBorderColor;
-    Invalidate();
+    if (Assign(m_dwFocusBorderColor, dwBorderColor))
+        Invalidate();
 }
 
 void CControlUI::SetBorderSize(int nSize)
 {
-    if (m_nBorderSize == nSize)
-        return;
-    m_nBorderSize = nSize;
-    Invalidate();
+    if (Assign(m_nBorderSize, nSize))
+        Invalidate();
 }
 
 void CControlUI::SetBorderRound(SIZE cxyRound)
 {
-    if (m_cxyBorderRound.cx == cxyRound.cx && m_cxyBorderRound.cy == cxyRound.cy)
-        return;
-    m_cxyBorderRound = cxyRound;
-    Invalidate();
+    if (Assign(m_cxyBorderRound, cxyRound))
+        Invalidate();
 }
 
 void CControlUI::SetBkImage(LPCTSTR pStrImage)
 {
-    if (m_sBkImage == pStrImage)
-        return;
-    m_sBkImage = pStrImage;
-    Invalidate();
+    if (Assign(m_sBkImage, pStrImage))
+        Invalidate();
 }
 
 const RECT& CControlUI::GetPos() const
@@ -214,7 +195,7 @@ void CControlUI::SetPos(RECT rc, bool bNeedInvalidate)
     if (rc.bottom < rc.top)
         rc.bottom = rc.top;
     m_bUpdateNeeded = false;
-    if (SameRect(rc, m_rcItem))
+    if (SameValue(rc, m_rcItem))
         return;
     if (bNeedInvalidate)
         Invalidate();
@@ -230,10 +211,8 @@ RECT CControlUI::GetPadding() const
 
 void CControlUI::SetPadding(RECT rcPadding)
 {
-    if (SameRect(rcPadding, m_rcPadding))
-        return;
-    m_rcPadding = rcPadding;
-    NeedParentUpdate();
+    if (Assign(m_rcPadding, rcPadding))
+        NeedParentUpdate();
 }
 
 int CControlUI::GetFixedWidth() const
@@ -243,10 +222,8 @@ int CControlUI::GetFixedWidth() const
 
 void CControlUI::SetFixedWidth(int cx)
 {
-    if (cx < 0 || m_cxyFixed.cx == cx)
-        return;
-    m_cxyFixed.cx = cx;
-    NeedParentUpdate();
+    if (cx >= 0 && Assign(m_cxyFixed.cx, cx))
+        NeedParentUpdate();
 }
 
 int CControlUI::GetFixedHeight() const
@@ -256,42 +233,32 @@ int CControlUI::GetFixedHeight() const
 
 void CControlUI::SetFixedHeight(int cy)
 {
-    if (cy < 0 || m_cxyFixed.cy == cy)
-        return;
-    m_cxyFixed.cy = cy;
-    NeedParentUpdate();
+    if (cy >= 0 && Assign(m_cxyFixed.cy, cy))
+        NeedParentUpdate();
 }
 
 void CControlUI::SetMinWidth(int cx)
 {
-    if (cx < 0 || m_cxyMin.cx == cx)
-        return;
-    m_cxyMin.cx = cx;
-    NeedParentUpdate();
+    if (cx >= 0 && Assign(m_cxyMin.cx, cx))
+        NeedParentUpdate();
 }
 
 void CControlUI::SetMaxWidth(int cx)
 {
-    if (cx < 0 || m_cxyMax.cx == cx)
-        return;
-    m_cxyMax.cx = cx;
-    NeedParentUpdate();
+    if (cx >= 0 && Assign(m_cxyMax.cx, cx))
+        NeedParentUpdate();
 }
 
 void CControlUI::SetMinHeight(int cy)
 {
-    if (cy < 0 || m_cxyMin.cy == cy)
-        return;
-    m_cxyMin.cy = cy;
-    NeedParentUpdate();
+    if (cy >= 0 && Assign(m_cxyMin.cy, cy))
+        NeedParentUpdate();
 }
 
 void CControlUI::SetMaxHeight(int cy)
 {
-    if (cy < 0 || m_cxyMax.cy == cy)
-        return;
-    m_cxyMax.cy = cy;
-    NeedParentUpdate();
+    if (cy >= 0 && Assign(m_cxyMax.cy, cy))
+        NeedParentUpdate();
 }
 
 CDuiString CControlUI::GetToolTip() const
@@ -352,10 +319,8 @@ bool CControlUI::IsEnabled() const
 
 void CControlUI::SetEnabled(bool bEnable)
 {
-    if (m_bEnabled == bEnable)
-        return;
-    m_bEnabled = bEnable;
-    Invalidate();
+    if (Assign(m_bEnabled, bEnable))
+        Invalidate();
 }
 
 bool CControlUI::IsMouseEnabled() const
@@ -391,18 +356,25 @@ void CControlUI::SetFocus()
 
 CControlUI* CControlUI::FindControl(FINDCONTROLPROC Proc, LPVOID pData, UINT uFlags)
 {
+    if (!IsSearchedBy(pData, uFlags))
+        return nullptr;
+    if ((uFlags & UIFIND_HITTEST) != 0 && !m_bMouseEnabled)
+        return nullptr;
+    return Proc(this, pData);
+}
+
+bool CControlUI::IsSearchedBy(LPVOID pData, UINT uFlags) const
+{
     if ((uFlags & UIFIND_VISIBLE) != 0 && !IsVisible())
-        return nullptr;
+        return false;
     if ((uFlags & UIFIND_ENABLED) != 0 && !IsEnabled())
-        return nullptr;
+        return false;
     if ((uFlags & UIFIND_HITTEST) != 0) {
         const POINT* pt = static_cast<const POINT*>(pData);
-        if (!m_bMouseEnabled || pt->x < m_rcItem.left || pt->x >= m_rcItem.right || pt->y < m_rcItem.top ||
-            pt->y >= m_rcItem.bottom) {
-            return nullptr;
-        }
+        return pt->x >= m_rcItem.left && pt->x < m_rcItem.right && pt->y >= m_rcItem.top &&
+               pt->y < m_rcItem.bottom;
     }
-    return Proc(this, pData);
+    return true;
 }
 
 void CControlUI::Invalidate()
@@ -476,64 +448,6 @@ CControlUI* CControlUI::ApplyAttributeList(LPCTSTR pstrList)
 SIZE CControlUI::EstimateSize(SIZE)
 {
     return m_cxyFixed;
-}
-
-void CControlUI::DoPaint(RenderContext& ctx, const RECT& rcPaint)
-{
-    if (!RectsIntersect(rcPaint, m_rcItem))
-        return;
-    const bool rounded = m_cxyBorderRound.cx > 0 && m_cxyBorderRound.cy > 0;
-    if (rounded)
-        ctx.PushClip(m_rcItem, m_cxyBorderRound, GetRoundCorners());
-    PaintBkColor(ctx);
-    PaintBkImage(ctx);
-    PaintStatusImage(ctx);
-    PaintText(ctx);
-    if (rounded)
-        ctx.PopClip();
-    PaintBorder(ctx);
-}
-
-void CControlUI::PaintBkColor(RenderContext& ctx)
-{
-    ctx.FillRect(m_rcItem, m_dwBackColor);
-}
-
-void CControlUI::PaintBkImage(RenderContext& ctx)
-{
-    if (!m_sBkImage.IsEmpty())
-        DrawImage(ctx, m_sBkImage);
-}
-
-void CControlUI::PaintStatusImage(RenderContext&) {}
-
-void CControlUI::PaintText(RenderContext&) {}
-
-void CControlUI::PaintBorder(RenderContext& ctx)
-{
-    const DWORD color = (m_bFocused && m_dwFocusBorderColor != 0) ? m_dwFocusBorderColor : m_dwBorderColor;
-    ctx.DrawBorder(m_rcItem, m_nBorderSize, color, m_cxyBorderRound);
-}
-
-bool CControlUI::DrawImage(RenderContext& ctx, const CDuiString& image)
-{
-    if (m_pManager == nullptr || image.IsEmpty())
-        return false;
-    ImageSpec spec;
-    if (!ImageSpec::Parse(image.str(), spec))
-        return false;
-    const auto loaded = m_pManager->GetImage(spec.file.c_str());
-    if (!loaded)
-        return false;
-    RECT dest = m_rcItem;
-    if (spec.hasDest) {
-        dest.left = m_rcItem.left + spec.dest[0];
-        dest.top = m_rcItem.top + spec.dest[1];
-        dest.right = m_rcItem.left + spec.dest[2];
-        dest.bottom = m_rcItem.top + spec.dest[3];
-    }
-    ctx.DrawImage(dest, *loaded, spec.fade);
-    return true;
 }
 
 } // namespace DuiLib

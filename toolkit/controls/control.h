@@ -142,6 +142,10 @@ public:
     virtual void PaintBorder(RenderContext& ctx);
 
 protected:
+    // Whether a search with these flags looks at this control (and, for a
+    // container, inside it): visible and enabled as asked, and holding the
+    // point of a hit test.
+    bool IsSearchedBy(LPVOID pData, UINT uFlags) const;
     // Draws an image string (a path or DuiLib's file='' dest='' form)
     // relative to the control's rectangle; false when it cannot be drawn.
     bool DrawImage(RenderContext& ctx, const CDuiString& image);
@@ -174,6 +178,31 @@ protected:
     SIZE m_cxyBorderRound{0, 0};
     CDuiString m_sBkImage;
 };
+
+// Whether two values of a control's state are the same.
+inline bool SameValue(const RECT& a, const RECT& b)
+{
+    return a.left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
+}
+inline bool SameValue(const SIZE& a, const SIZE& b)
+{
+    return a.cx == b.cx && a.cy == b.cy;
+}
+template <class T> bool SameValue(const T& a, const T& b)
+{
+    return a == b;
+}
+
+// Stores `value` in `member`; false when it held that value already, so
+// that a setter invalidates only on a change.
+template <class T, class U> bool Assign(T& member, const U& value)
+{
+    const T next = static_cast<T>(value);
+    if (SameValue(member, next))
+        return false;
+    member = next;
+    return true;
+}
 
 // Looks `name` up in a table of attribute setters and applies it; false
 // when the table has no such name.

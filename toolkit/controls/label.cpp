@@ -31,26 +31,20 @@ LPVOID CLabelUI::GetInterface(LPCTSTR pstrName)
 
 void CLabelUI::SetTextStyle(UINT uStyle)
 {
-    if (m_uTextStyle == uStyle)
-        return;
-    m_uTextStyle = uStyle;
-    Invalidate();
+    if (Assign(m_uTextStyle, uStyle))
+        Invalidate();
 }
 
 void CLabelUI::SetTextColor(DWORD dwTextColor)
 {
-    if (m_dwTextColor == dwTextColor)
-        return;
-    m_dwTextColor = dwTextColor;
-    Invalidate();
+    if (Assign(m_dwTextColor, dwTextColor))
+        Invalidate();
 }
 
 void CLabelUI::SetDisabledTextColor(DWORD dwTextColor)
 {
-    if (m_dwDisabledTextColor == dwTextColor)
-        return;
-    m_dwDisabledTextColor = dwTextColor;
-    Invalidate();
+    if (Assign(m_dwDisabledTextColor, dwTextColor))
+        Invalidate();
 }
 
 void CLabelUI::SetFont(int index)
@@ -126,29 +120,13 @@ void CLabelUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
          [](CLabelUI& c, const wchar_t* n, const wchar_t* v) { c.SetAutoCalcWidth(attr::ParseBool(n, v)); }},
         {L"align",
          [](CLabelUI& c, const wchar_t* n, const wchar_t* v) {
-             const std::wstring s = v;
-             const UINT mask = DT_LEFT | DT_CENTER | DT_RIGHT;
-             if (s == L"left")
-                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_LEFT));
-             else if (s == L"center")
-                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_CENTER));
-             else if (s == L"right")
-                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_RIGHT));
-             else
-                 throw AttributeError(AttributeError::Kind::BadValue, n, v);
+             c.SetTextStyle(ReplaceBits(c.GetTextStyle(), DT_LEFT | DT_CENTER | DT_RIGHT,
+                                        attr::ParseHorizontalAlign(n, v)));
          }},
         {L"valign",
          [](CLabelUI& c, const wchar_t* n, const wchar_t* v) {
-             const std::wstring s = v;
-             const UINT mask = DT_TOP | DT_VCENTER | DT_BOTTOM;
-             if (s == L"top")
-                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_TOP));
-             else if (s == L"vcenter" || s == L"center")
-                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_VCENTER));
-             else if (s == L"bottom")
-                 c.SetTextStyle(ReplaceBits(c.GetTextStyle(), mask, DT_BOTTOM));
-             else
-                 throw AttributeError(AttributeError::Kind::BadValue, n, v);
+             c.SetTextStyle(ReplaceBits(c.GetTextStyle(), DT_TOP | DT_VCENTER | DT_BOTTOM,
+                                        attr::ParseVerticalAlign(n, v)));
          }},
         {L"endellipsis",
          [](CLabelUI& c, const wchar_t* n, const wchar_t* v) {

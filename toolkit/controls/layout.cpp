@@ -39,7 +39,21 @@ int Align(int start, int room, int size, bool centre, bool end)
     return start;
 }
 
-// How a stack measures its children along the axis it stacks them on.
+// A stretch of one axis: where a child starts and how long it is.
+struct Span
+{
+    int start;
+    int size;
+};
+
+RECT ToRect(Span x, Span y)
+{
+    return RECT{x.start, y.start, x.start + x.size, y.start + y.size};
+}
+
+// One direction of a layout: how a child is measured along it and how the
+// owner aligns children in it. A stack runs along one axis and places its
+// children across the other.
 struct VerticalAxis
 {
     static int Wanted(const Child& c) { return c.wanted.cy; }
@@ -47,6 +61,11 @@ struct VerticalAxis
     static int After(const Child& c) { return c.padding.bottom; }
     static int Min(const Child& c) { return c.control->GetMinHeight(); }
     static int Max(const Child& c) { return c.control->GetMaxHeight(); }
+    static int Start(const RECT& r) { return r.top; }
+    static int Extent(SIZE s) { return s.cy; }
+    static bool Centred(const CContainerUI& owner) { return (owner.GetChildVAlign() & DT_VCENTER) != 0; }
+    static bool AtEnd(const CContainerUI& owner) { return (owner.GetChildVAlign() & DT_BOTTOM) != 0; }
+    static RECT Compose(Span along, Span across) { return ToRect(across, along); }
 };
 
 struct HorizontalAxis
@@ -56,7 +75,25 @@ struct HorizontalAxis
     static int After(const Child& c) { return c.padding.right; }
     static int Min(const Child& c) { return c.control->GetMinWidth(); }
     static int Max(const Child& c) { return c.control->GetMaxWidth(); }
+    static int Start(const RECT& r) { return r.left; }
+    static int Extent(SIZE s) { return s.cx; }
+    static bool Centred(const CContainerUI& owner) { return (owner.GetChildAlign() & DT_CENTER) != 0; }
+    static bool AtEnd(const CContainerUI& owner) { return (owner.GetChildAlign() & DT_RIGHT) != 0; }
+    static RECT Compose(Span along, Span across) { return ToRect(along, across); }
 };
+
+// Where a child goes along an axis it does not share with its siblings: its
+// own size (or all the room), aligned in the room.
+template <class Axis> Span PlaceAlone(const Child& child, const CContainerUI& owner, const RECT& area)
+{
+    const int room = Axis::Extent(SIZE{area.right - area.left, area.bottom - area.top}) -
+                     Axis::Before(child) - Axis::After(child);
+    const int size =
+        Clamp(Axis::Wanted(child) > 0 ? Axis::Wanted(child) : room, Axis::Min(child), Axis::Max(child));
+    const int start =
+        Align(Axis::Start(area) + Axis::Before(child), room, size, Axis::Centred(owner), Axis::AtEnd(owner));
+    return Span{start, size};
+}
 
 // The children's extents along a stack of `room` pixels: a child with a
 // size of its own keeps it (within its limits); the others share what is
@@ -94,27 +131,64 @@ template <class Axis> StackSplit SplitStack(const std::vector<Child>& children, 
     return split;
 }
 
+// Stacks the children along `Main` and places each across `Cross`, all
+// shifted up by `scrollY`; returns the extents the children take along
+// (cx) and across (cy) the stack.
+template <class Main, class Cross> SIZE ArrangeStack(CContainerUI& owner, const RECT& area, int scrollY)
+{
+    const SIZE available{area.right - area.left, area.bottom - area.top};
+    auto children = VisibleChildren(owner, available);
+    if (children.empty())
+        return SIZE{0, 0};
+    const StackSplit split = SplitStack<Main>(children, Main::Extent(available), owner.GetChildPadding());
+    int at = Main::Start(area);
+    if (split.flexible == 0)
+        at = Align(at, Main::Extent(available), split.fixedTotal, Main::Centred(owner), Main::AtEnd(owner));
+    const int first = at;
+    int crossExtent = 0;
+    for (std::size_t i = 0; i < children.size(); ++i) {
+        const Child& child = children[i];
+        const Span across = PlaceAlone<Cross>(child, owner, area);
+        at += Main::Before(child);
+        RECT rc = Main::Compose(Span{at, split.sizes[i]}, across);
+        rc.top -= scrollY;
+        rc.bottom -= scrollY;
+        child.control->SetPos(rc, false);
+        at += split.sizes[i] + Main::After(child);
+        if (i + 1 < children.size())
+            at += owner.GetChildPadding();
+        crossExtent = std::max(crossExtent, across.size + Cross::Before(child) + Cross::After(child));
+    }
+    return SIZE{at - first, crossExtent};
+}
+
+// What the children of a stack along `Main` want: the sum along it, the
+// largest across it.
+template <class Main, class Cross> std::pair<int, int> EstimateStack(CContainerUI& owner, SIZE available)
+{
+    int along = 0;
+    int across = 0;
+    const auto children = VisibleChildren(owner, available);
+    for (const auto& child : children) {
+        along += Main::Wanted(child) + Main::Before(child) + Main::After(child);
+        across = std::max(across, Cross::Wanted(child) + Cross::Before(child) + Cross::After(child));
+    }
+    if (!children.empty())
+        along += owner.GetChildPadding() * static_cast<int>(children.size() - 1);
+    return {along, across};
+}
+
 } // namespace
 
 int StackLayout::Arrange(CContainerUI& owner, const RECT& area, int scrollY)
 {
     const SIZE available{area.right - area.left, area.bottom - area.top};
     int contentHeight = 0;
-    for (auto& child : VisibleChildren(owner, available)) {
-        const RECT& pad = child.padding;
-        const int roomW = available.cx - pad.left - pad.right;
-        const int roomH = available.cy - pad.top - pad.bottom;
-        const int w = Clamp(child.wanted.cx > 0 ? child.wanted.cx : roomW, child.control->GetMinWidth(),
-                            child.control->GetMaxWidth());
-        const int h = Clamp(child.wanted.cy > 0 ? child.wanted.cy : roomH, child.control->GetMinHeight(),
-                            child.control->GetMaxHeight());
-        const int x = Align(area.left + pad.left, roomW, w, owner.GetChildAlign() & DT_CENTER,
-                            owner.GetChildAlign() & DT_RIGHT);
-        const int y = Align(area.top + pad.top, roomH, h, owner.GetChildVAlign() & DT_VCENTER,
-                            owner.GetChildVAlign() & DT_BOTTOM) -
-                      scrollY;
-        child.control->SetPos(RECT{x, y, x + w, y + h}, false);
-        contentHeight = std::max(contentHeight, h + pad.top + pad.bottom);
+    for (const auto& child : VisibleChildren(owner, available)) {
+        const Span x = PlaceAlone<HorizontalAxis>(child, owner, area);
+        const Span y = PlaceAlone<VerticalAxis>(child, owner, area);
+        child.control->SetPos(ToRect(x, Span{y.start - scrollY, y.size}), false);
+        contentHeight = std::max(contentHeight, y.size + child.padding.top + child.padding.bottom);
     }
     return contentHeight;
 }
@@ -122,7 +196,7 @@ int StackLayout::Arrange(CContainerUI& owner, const RECT& area, int scrollY)
 SIZE StackLayout::Estimate(CContainerUI& owner, SIZE available)
 {
     SIZE size{0, 0};
-    for (auto& child : VisibleChildren(owner, available)) {
+    for (const auto& child : VisibleChildren(owner, available)) {
         size.cx = std::max<LONG>(size.cx, child.wanted.cx + child.padding.left + child.padding.right);
         size.cy = std::max<LONG>(size.cy, child.wanted.cy + child.padding.top + child.padding.bottom);
     }
@@ -131,96 +205,24 @@ SIZE StackLayout::Estimate(CContainerUI& owner, SIZE available)
 
 int VerticalStackLayout::Arrange(CContainerUI& owner, const RECT& area, int scrollY)
 {
-    const SIZE available{area.right - area.left, area.bottom - area.top};
-    auto children = VisibleChildren(owner, available);
-    if (children.empty())
-        return 0;
-
-    const StackSplit split = SplitStack<VerticalAxis>(children, available.cy, owner.GetChildPadding());
-
-    int y = area.top - scrollY;
-    if (split.flexible == 0) {
-        y = Align(y, available.cy, split.fixedTotal, owner.GetChildVAlign() & DT_VCENTER,
-                  owner.GetChildVAlign() & DT_BOTTOM);
-    }
-    const int top = y;
-    for (std::size_t i = 0; i < children.size(); ++i) {
-        auto& child = children[i];
-        const RECT& pad = child.padding;
-        const int h = split.sizes[i];
-        const int roomW = available.cx - pad.left - pad.right;
-        const int w = Clamp(child.wanted.cx > 0 ? child.wanted.cx : roomW, child.control->GetMinWidth(),
-                            child.control->GetMaxWidth());
-        const int x = Align(area.left + pad.left, roomW, w, owner.GetChildAlign() & DT_CENTER,
-                            owner.GetChildAlign() & DT_RIGHT);
-        y += pad.top;
-        child.control->SetPos(RECT{x, y, x + w, y + h}, false);
-        y += h + pad.bottom;
-        if (i + 1 < children.size())
-            y += owner.GetChildPadding();
-    }
-    return y - top;
+    return ArrangeStack<VerticalAxis, HorizontalAxis>(owner, area, scrollY).cx;
 }
 
 SIZE VerticalStackLayout::Estimate(CContainerUI& owner, SIZE available)
 {
-    SIZE size{0, 0};
-    auto children = VisibleChildren(owner, available);
-    for (const auto& child : children) {
-        size.cx = std::max<LONG>(size.cx, child.wanted.cx + child.padding.left + child.padding.right);
-        size.cy += child.wanted.cy + child.padding.top + child.padding.bottom;
-    }
-    if (!children.empty())
-        size.cy += owner.GetChildPadding() * static_cast<int>(children.size() - 1);
-    return size;
+    const auto [along, across] = EstimateStack<VerticalAxis, HorizontalAxis>(owner, available);
+    return SIZE{across, along};
 }
 
 int HorizontalStackLayout::Arrange(CContainerUI& owner, const RECT& area, int scrollY)
 {
-    const SIZE available{area.right - area.left, area.bottom - area.top};
-    auto children = VisibleChildren(owner, available);
-    if (children.empty())
-        return 0;
-
-    const StackSplit split = SplitStack<HorizontalAxis>(children, available.cx, owner.GetChildPadding());
-
-    int x = area.left;
-    if (split.flexible == 0) {
-        x = Align(x, available.cx, split.fixedTotal, owner.GetChildAlign() & DT_CENTER,
-                  owner.GetChildAlign() & DT_RIGHT);
-    }
-    int contentHeight = 0;
-    for (std::size_t i = 0; i < children.size(); ++i) {
-        auto& child = children[i];
-        const RECT& pad = child.padding;
-        const int w = split.sizes[i];
-        const int roomH = available.cy - pad.top - pad.bottom;
-        const int h = Clamp(child.wanted.cy > 0 ? child.wanted.cy : roomH, child.control->GetMinHeight(),
-                            child.control->GetMaxHeight());
-        const int y = Align(area.top + pad.top, roomH, h, owner.GetChildVAlign() & DT_VCENTER,
-                            owner.GetChildVAlign() & DT_BOTTOM) -
-                      scrollY;
-        x += pad.left;
-        child.control->SetPos(RECT{x, y, x + w, y + h}, false);
-        x += w + pad.right;
-        if (i + 1 < children.size())
-            x += owner.GetChildPadding();
-        contentHeight = std::max(contentHeight, h + pad.top + pad.bottom);
-    }
-    return contentHeight;
+    return ArrangeStack<HorizontalAxis, VerticalAxis>(owner, area, scrollY).cy;
 }
 
 SIZE HorizontalStackLayout::Estimate(CContainerUI& owner, SIZE available)
 {
-    SIZE size{0, 0};
-    auto children = VisibleChildren(owner, available);
-    for (const auto& child : children) {
-        size.cx += child.wanted.cx + child.padding.left + child.padding.right;
-        size.cy = std::max<LONG>(size.cy, child.wanted.cy + child.padding.top + child.padding.bottom);
-    }
-    if (!children.empty())
-        size.cx += owner.GetChildPadding() * static_cast<int>(children.size() - 1);
-    return size;
+    const auto [along, across] = EstimateStack<HorizontalAxis, VerticalAxis>(owner, available);
+    return SIZE{along, across};
 }
 
 } // namespace DuiLib

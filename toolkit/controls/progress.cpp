@@ -24,40 +24,32 @@ LPVOID CProgressUI::GetInterface(LPCTSTR pstrName)
 
 void CProgressUI::SetMinValue(int nMin)
 {
-    if (m_nMin == nMin)
-        return;
-    m_nMin = nMin;
-    Invalidate();
+    if (Assign(m_nMin, nMin))
+        Invalidate();
 }
 
 void CProgressUI::SetMaxValue(int nMax)
 {
-    if (m_nMax == nMax)
-        return;
-    m_nMax = nMax;
-    Invalidate();
+    if (Assign(m_nMax, nMax))
+        Invalidate();
 }
 
 void CProgressUI::SetValue(int nValue)
 {
-    if (m_nValue == nValue)
-        return;
-    m_nValue = nValue;
-    Invalidate();
+    if (Assign(m_nValue, nValue))
+        Invalidate();
 }
 
 void CProgressUI::SetRoundRectDirection(int direction)
 {
-    if (m_iRoundDirection == direction)
-        return;
-    m_iRoundDirection = direction;
-    Invalidate();
+    if (Assign(m_iRoundDirection, direction))
+        Invalidate();
 }
 
 void CProgressUI::SetForeImage(LPCTSTR image)
 {
-    m_sForeImage = image;
-    Invalidate();
+    if (Assign(m_sForeImage, CDuiString(image)))
+        Invalidate();
 }
 
 int CProgressUI::GetFilledWidth() const

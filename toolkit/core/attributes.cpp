@@ -132,6 +132,30 @@ RECT ParseRect(const wchar_t* name, const wchar_t* value)
     return rect;
 }
 
+UINT ParseHorizontalAlign(const wchar_t* name, const wchar_t* value)
+{
+    const std::wstring v = value ? value : L"";
+    if (v == L"left")
+        return DT_LEFT;
+    if (v == L"center")
+        return DT_CENTER;
+    if (v == L"right")
+        return DT_RIGHT;
+    Bad(name, value);
+}
+
+UINT ParseVerticalAlign(const wchar_t* name, const wchar_t* value)
+{
+    const std::wstring v = value ? value : L"";
+    if (v == L"top")
+        return DT_TOP;
+    if (v == L"vcenter" || v == L"center")
+        return DT_VCENTER;
+    if (v == L"bottom")
+        return DT_BOTTOM;
+    Bad(name, value);
+}
+
 std::string Narrow(const std::wstring& text)
 {
     std::string out;

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "platform/win32.h"
+#include "platform/win32_gdi.h"
 #include "toolkit/core/dui_string.h"
 
 namespace DuiLib {
@@ -58,6 +59,12 @@ bool ParseBool(const wchar_t* name, const wchar_t* value);
 SIZE ParseSize(const wchar_t* name, const wchar_t* value);
 // "left,top,right,bottom".
 RECT ParseRect(const wchar_t* name, const wchar_t* value);
+
+// "left", "center" or "right" as DT_LEFT, DT_CENTER or DT_RIGHT.
+UINT ParseHorizontalAlign(const wchar_t* name, const wchar_t* value);
+// "top", "vcenter" (or "center") or "bottom" as DT_TOP, DT_VCENTER or
+// DT_BOTTOM.
+UINT ParseVerticalAlign(const wchar_t* name, const wchar_t* value);
 
 // Reads an attribute list of the form  a="1" b='x y'  (used by <Default>).
 // Returns false for malformed text.

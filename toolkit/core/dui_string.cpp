@@ -184,13 +184,4 @@ int CDuiString::Format(const wchar_t* format, ...)
     return length;
 }
 
-int CDuiString::SmallFormat(const wchar_t* format, ...)
-{
-    va_list args;
-    va_start(args, format);
-    const int length = FormatInto(m_text, format, args);
-    va_end(args);
-    return length;
-}
-
 } // namespace DuiLib

@@ -96,7 +96,11 @@ public:
     // printf-style formatting into this string; returns the new length, or
     // -1 (leaving the string empty) when the format cannot be expanded.
     int Format(const wchar_t* format, ...);
-    int SmallFormat(const wchar_t* format, ...);
+    // DuiLib's variant for short results; the same as Format here.
+    template <class... Args> int SmallFormat(const wchar_t* format, Args... args)
+    {
+        return Format(format, args...);
+    }
 
 private:
     std::wstring m_text;

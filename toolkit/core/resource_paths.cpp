@@ -36,35 +36,37 @@ Store& TheStore()
     return store;
 }
 
+// Runs `use` on the one store with its lock held.
+template <class Use> auto Locked(Use use)
+{
+    Store& store = TheStore();
+    std::lock_guard<std::mutex> lock(store.mutex);
+    return use(store);
+}
+
 } // namespace
 
 std::wstring Instance()
 {
-    Store& store = TheStore();
-    std::lock_guard<std::mutex> lock(store.mutex);
-    return store.instance;
+    return Locked([](Store& store) { return store.instance; });
 }
 
 void SetInstance(std::wstring path)
 {
-    Store& store = TheStore();
-    std::lock_guard<std::mutex> lock(store.mutex);
-    store.instance = WithTrailingSlash(std::move(path));
-    store.skin = store.instance + L"Res/skin/";
+    Locked([&path](Store& store) {
+        store.instance = WithTrailingSlash(std::move(path));
+        store.skin = store.instance + L"Res/skin/";
+    });
 }
 
 std::wstring Skin()
 {
-    Store& store = TheStore();
-    std::lock_guard<std::mutex> lock(store.mutex);
-    return store.skin;
+    return Locked([](Store& store) { return store.skin; });
 }
 
 void SetSkin(std::wstring path)
 {
-    Store& store = TheStore();
-    std::lock_guard<std::mutex> lock(store.mutex);
-    store.skin = WithTrailingSlash(std::move(path));
+    Locked([&path](Store& store) { store.skin = WithTrailingSlash(std::move(path)); });
 }
 
 } // namespace resource_paths

@@ -6,9 +6,11 @@
 #include <cstdio>
 #include <fstream>
 #include <sstream>
+#include <unordered_map>
 
 #include "toolkit/controls/button.h"
 #include "toolkit/controls/container.h"
+#include "toolkit/controls/control.h"
 #include "toolkit/controls/label.h"
 #include "toolkit/controls/list.h"
 #include "toolkit/controls/progress.h"
@@ -53,37 +55,117 @@ std::wstring Localised(const std::wstring& value)
     return value;
 }
 
+[[noreturn]] void Unknown(const std::wstring& name, const std::wstring& value)
+{
+    throw AttributeError(AttributeError::Kind::UnknownAttribute, name, value);
+}
+
+// What a <Font> element says.
+struct FontSpec
+{
+    int id = -1;
+    std::wstring family;
+    int size = 12;
+    bool bold = false;
+    bool underline = false;
+    bool italic = false;
+    bool isDefault = false;
+};
+
+const std::unordered_map<std::wstring, AttributeSetter<FontSpec>>& FontAttributes()
+{
+    static const std::unordered_map<std::wstring, AttributeSetter<FontSpec>> table = {
+        {L"id", [](FontSpec& f, const wchar_t* n, const wchar_t* v) { f.id = attr::ParseInt(n, v); }},
+        {L"name", [](FontSpec& f, const wchar_t*, const wchar_t* v) { f.family = v; }},
+        {L"size", [](FontSpec& f, const wchar_t* n, const wchar_t* v) { f.size = attr::ParseInt(n, v); }},
+        {L"bold", [](FontSpec& f, const wchar_t* n, const wchar_t* v) { f.bold = attr::ParseBool(n, v); }},
+        {L"underline",
+         [](FontSpec& f, const wchar_t* n, const wchar_t* v) { f.underline = attr::ParseBool(n, v); }},
+        {L"italic",
+         [](FontSpec& f, const wchar_t* n, const wchar_t* v) { f.italic = attr::ParseBool(n, v); }},
+        {L"default",
+         [](FontSpec& f, const wchar_t* n, const wchar_t* v) { f.isDefault = attr::ParseBool(n, v); }},
+        {L"shared", [](FontSpec&, const wchar_t* n, const wchar_t* v) { attr::ParseBool(n, v); }},
+    };
+    return table;
+}
+
+// Controls made by the builder are owned by whoever takes the tree.
+template <class Control> CControlUI* MakeControl()
+{
+    return new Control;
+}
+
 } // namespace
 
 CControlUI* CreateBuiltinControl(const std::wstring& className)
 {
-    if (className == L"Control")
-        return new CControlUI;
-    if (className == L"Container")
-        return new CContainerUI;
-    if (className == L"VerticalLayout")
-        return new CVerticalLayoutUI;
-    if (className == L"HorizontalLayout")
-        return new CHorizontalLayoutUI;
-    if (className == L"TabLayout")
-        return new CTabLayoutUI;
-    if (className == L"Label")
-        return new CLabelUI;
-    if (className == L"Text")
-        return new CTextUI;
-    if (className == L"Button")
-        return new CButtonUI;
-    if (className == L"Progress")
-        return new CProgressUI;
-    if (className == L"List")
-        return new CListUI;
-    if (className == L"ListContainerElement")
-        return new CListContainerElementUI;
-    return nullptr;
+    using Factory = CControlUI* (*)();
+    static const std::unordered_map<std::wstring, Factory> factories = {
+        {L"Control", &MakeControl<CControlUI>},
+        {L"Container", &MakeControl<CContainerUI>},
+        {L"VerticalLayout", &MakeControl<CVerticalLayoutUI>},
+        {L"HorizontalLayout", &MakeControl<CHorizontalLayoutUI>},
+        {L"TabLayout", &MakeControl<CTabLayoutUI>},
+        {L"Label", &MakeControl<CLabelUI>},
+        {L"Text", &MakeControl<CTextUI>},
+        {L"Button", &MakeControl<CButtonUI>},
+        {L"Progress", &MakeControl<CProgressUI>},
+        {L"List", &MakeControl<CListUI>},
+        {L"ListContainerElement", &MakeControl<CListContainerElementUI>},
+    };
+    const auto found = factories.find(className);
+    return found != factories.end() ? found->second() : nullptr;
 }
 
 struct CDialogBuilder::Parser
 {
+    using WindowSetter = AttributeSetter<Parser>;
+
+    // The attributes of <Window>; without a manager they are only checked.
+    static const std::unordered_map<std::wstring, WindowSetter>& WindowAttributes()
+    {
+        static const std::unordered_map<std::wstring, WindowSetter> table = {
+            {L"size",
+             [](Parser& p, const wchar_t* n, const wchar_t* v) {
+                 const SIZE s = attr::ParseSize(n, v);
+                 if (p.manager)
+                     p.manager->SetInitSize(s.cx, s.cy);
+             }},
+            {L"caption",
+             [](Parser& p, const wchar_t* n, const wchar_t* v) {
+                 const RECT r = attr::ParseRect(n, v);
+                 if (p.manager)
+                     p.manager->SetCaptionRect(r);
+             }},
+            {L"roundcorner",
+             [](Parser& p, const wchar_t* n, const wchar_t* v) {
+                 const SIZE s = attr::ParseSize(n, v);
+                 if (p.manager)
+                     p.manager->SetRoundCorner(s.cx, s.cy);
+             }},
+            {L"mininfo",
+             [](Parser& p, const wchar_t* n, const wchar_t* v) {
+                 const SIZE s = attr::ParseSize(n, v);
+                 if (p.manager)
+                     p.manager->SetMinInfo(s.cx, s.cy);
+             }},
+            {L"defaultfontcolor",
+             [](Parser& p, const wchar_t* n, const wchar_t* v) {
+                 const DWORD color = attr::ParseColor(n, v);
+                 if (p.manager)
+                     p.manager->SetDefaultFontColor(color);
+             }},
+            // Read for their form only: the toolkit's windows do not use them.
+            {L"sizebox", [](Parser&, const wchar_t* n, const wchar_t* v) { attr::ParseRect(n, v); }},
+            {L"maxinfo", [](Parser&, const wchar_t* n, const wchar_t* v) { attr::ParseRect(n, v); }},
+            {L"showshadow", [](Parser&, const wchar_t* n, const wchar_t* v) { attr::ParseBool(n, v); }},
+            {L"bktrans", [](Parser&, const wchar_t* n, const wchar_t* v) { attr::ParseBool(n, v); }},
+            {L"layered", [](Parser&, const wchar_t* n, const wchar_t* v) { attr::ParseBool(n, v); }},
+        };
+        return table;
+    }
+
     IDialogBuilderCallback* callback;
     CPaintManagerUI* manager;
 
@@ -92,86 +174,41 @@ struct CDialogBuilder::Parser
         throw BuildFailure{node.offset_debug(), std::move(name), std::move(message)};
     }
 
-    void ApplyWindow(const pugi::xml_node& node)
+    // Applies every attribute of `node` with `apply`, which throws
+    // AttributeError for one it does not know or cannot read.
+    template <class Apply> static void ForEachAttribute(const pugi::xml_node& node, Apply apply)
     {
         for (const auto& a : node.attributes()) {
-            const std::wstring name = W(a.name());
-            const std::wstring value = W(a.value());
             try {
-                if (name == L"size") {
-                    const SIZE s = attr::ParseSize(name.c_str(), value.c_str());
-                    if (manager)
-                        manager->SetInitSize(s.cx, s.cy);
-                } else if (name == L"caption") {
-                    const RECT r = attr::ParseRect(name.c_str(), value.c_str());
-                    if (manager)
-                        manager->SetCaptionRect(r);
-                } else if (name == L"roundcorner") {
-                    const SIZE s = attr::ParseSize(name.c_str(), value.c_str());
-                    if (manager)
-                        manager->SetRoundCorner(s.cx, s.cy);
-                } else if (name == L"mininfo") {
-                    const SIZE s = attr::ParseSize(name.c_str(), value.c_str());
-                    if (manager)
-                        manager->SetMinInfo(s.cx, s.cy);
-                } else if (name == L"defaultfontcolor") {
-                    const DWORD color = attr::ParseColor(name.c_str(), value.c_str());
-                    if (manager)
-                        manager->SetDefaultFontColor(color);
-                } else if (name == L"sizebox" || name == L"maxinfo") {
-                    attr::ParseRect(name.c_str(), value.c_str());
-                } else if (name == L"showshadow" || name == L"bktrans" || name == L"layered") {
-                    attr::ParseBool(name.c_str(), value.c_str());
-                } else {
-                    throw AttributeError(AttributeError::Kind::UnknownAttribute, name, value);
-                }
+                apply(W(a.name()), W(a.value()));
             } catch (const AttributeError& e) {
-                Fail(node, e.name(), std::string("Window: ") + e.what());
+                Fail(node, e.name(), std::string(node.name()) + ": " + e.what());
             }
         }
     }
 
+    void ApplyWindow(const pugi::xml_node& node)
+    {
+        ForEachAttribute(node, [this](const std::wstring& name, const std::wstring& value) {
+            if (!ApplyFromTable(WindowAttributes(), *this, name.c_str(), value.c_str()))
+                Unknown(name, value);
+        });
+    }
+
     void ApplyFont(const pugi::xml_node& node)
     {
-        int id = -1;
-        std::wstring family;
-        int size = 12;
-        bool bold = false;
-        bool underline = false;
-        bool italic = false;
-        bool isDefault = false;
-        for (const auto& a : node.attributes()) {
-            const std::wstring name = W(a.name());
-            const std::wstring value = W(a.value());
-            try {
-                if (name == L"id")
-                    id = attr::ParseInt(name.c_str(), value.c_str());
-                else if (name == L"name")
-                    family = value;
-                else if (name == L"size")
-                    size = attr::ParseInt(name.c_str(), value.c_str());
-                else if (name == L"bold")
-                    bold = attr::ParseBool(name.c_str(), value.c_str());
-                else if (name == L"underline")
-                    underline = attr::ParseBool(name.c_str(), value.c_str());
-                else if (name == L"italic")
-                    italic = attr::ParseBool(name.c_str(), value.c_str());
-                else if (name == L"default")
-                    isDefault = attr::ParseBool(name.c_str(), value.c_str());
-                else if (name == L"shared")
-                    attr::ParseBool(name.c_str(), value.c_str());
-                else
-                    throw AttributeError(AttributeError::Kind::UnknownAttribute, name, value);
-            } catch (const AttributeError& e) {
-                Fail(node, e.name(), std::string("Font: ") + e.what());
-            }
-        }
+        FontSpec font;
+        ForEachAttribute(node, [&font](const std::wstring& name, const std::wstring& value) {
+            if (!ApplyFromTable(FontAttributes(), font, name.c_str(), value.c_str()))
+                Unknown(name, value);
+        });
         if (manager == nullptr)
             return;
-        if (id >= 0)
-            manager->AddFont(id, family.c_str(), size, bold, underline, italic);
-        if (isDefault)
-            manager->SetDefaultFont(family.c_str(), size, bold, underline, italic);
+        if (font.id >= 0)
+            manager->AddFont(font.id, font.family.c_str(), font.size, font.bold, font.underline, font.italic);
+        if (font.isDefault) {
+            manager->SetDefaultFont(font.family.c_str(), font.size, font.bold, font.underline, font.italic);
+        }
     }
 
     void ApplyDefault(const pugi::xml_node& node)

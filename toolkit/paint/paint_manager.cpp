@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <cwctype>
 #include <mutex>
 
 #include "toolkit/controls/container.h"
@@ -38,6 +37,32 @@ bool IsAncestorOrSelf(const CControlUI* ancestor, const CControlUI* control)
     return false;
 }
 
+// Notifiers and message filters: each is registered once, in order.
+template <class T> bool AddOnce(std::vector<T*>& list, T* item)
+{
+    if (item == nullptr || std::find(list.begin(), list.end(), item) != list.end())
+        return false;
+    list.push_back(item);
+    return true;
+}
+
+template <class T> bool RemoveOne(std::vector<T*>& list, T* item)
+{
+    const auto found = std::find(list.begin(), list.end(), item);
+    if (found == list.end())
+        return false;
+    list.erase(found);
+    return true;
+}
+
+// Default attribute lists are found by control class, ignoring case.
+std::wstring ClassKey(LPCTSTR className)
+{
+    CDuiString key(className);
+    key.MakeLower();
+    return key.str();
+}
+
 RECT UnionRects(const RECT& a, const RECT& b)
 {
     if (RectIsEmpty(a))
@@ -59,11 +84,7 @@ CPaintManagerUI::CPaintManagerUI()
 CPaintManagerUI::~CPaintManagerUI()
 {
     m_delayedCleanup.clear();
-    for (const auto& timer : m_timers) {
-        if (m_hWndPaint != nullptr)
-            ::KillTimer(m_hWndPaint, timer.windowTimerId);
-    }
-    m_timers.clear();
+    m_timers.KillIf([](const ControlTimerTable::Entry&) { return true; });
     m_pFocus = m_pEventHover = m_pEventClick = nullptr;
     m_root.reset();
 }
@@ -71,6 +92,7 @@ CPaintManagerUI::~CPaintManagerUI()
 void CPaintManagerUI::Init(HWND hWnd, LPCTSTR pstrName)
 {
     m_hWndPaint = hWnd;
+    m_timers.SetWindow(hWnd);
     m_sName = pstrName ? pstrName : L"";
 }
 
@@ -184,21 +206,12 @@ CControlUI* CPaintManagerUI::FindSubControlByClass(CControlUI* pParent, LPCTSTR 
 
 bool CPaintManagerUI::AddNotifier(INotifyUI* pControl)
 {
-    if (pControl == nullptr ||
-        std::find(m_notifiers.begin(), m_notifiers.end(), pControl) != m_notifiers.end()) {
-        return false;
-    }
-    m_notifiers.push_back(pControl);
-    return true;
+    return AddOnce(m_notifiers, pControl);
 }
 
 bool CPaintManagerUI::RemoveNotifier(INotifyUI* pControl)
 {
-    const auto it = std::find(m_notifiers.begin(), m_notifiers.end(), pControl);
-    if (it == m_notifiers.end())
-        return false;
-    m_notifiers.erase(it);
-    return true;
+    return RemoveOne(m_notifiers, pControl);
 }
 
 void CPaintManagerUI::SendNotify(TNotifyUI& Msg, bool bAsync)
@@ -232,257 +245,22 @@ void CPaintManagerUI::SendNotify(CControlUI* pControl, LPCTSTR pstrMessage, WPAR
 
 bool CPaintManagerUI::AddPreMessageFilter(IMessageFilterUI* pFilter)
 {
-    if (pFilter == nullptr ||
-        std::find(m_preFilters.begin(), m_preFilters.end(), pFilter) != m_preFilters.end()) {
-        return false;
-    }
-    m_preFilters.push_back(pFilter);
-    return true;
+    return AddOnce(m_preFilters, pFilter);
 }
 
 bool CPaintManagerUI::RemovePreMessageFilter(IMessageFilterUI* pFilter)
 {
-    const auto it = std::find(m_preFilters.begin(), m_preFilters.end(), pFilter);
-    if (it == m_preFilters.end())
-        return false;
-    m_preFilters.erase(it);
-    return true;
+    return RemoveOne(m_preFilters, pFilter);
 }
 
 bool CPaintManagerUI::AddMessageFilter(IMessageFilterUI* pFilter)
 {
-    if (pFilter == nullptr || std::find(m_filters.begin(), m_filters.end(), pFilter) != m_filters.end())
-        return false;
-    m_filters.push_back(pFilter);
-    return true;
+    return AddOnce(m_filters, pFilter);
 }
 
 bool CPaintManagerUI::RemoveMessageFilter(IMessageFilterUI* pFilter)
 {
-    const auto it = std::find(m_filters.begin(), m_filters.end(), pFilter);
-    if (it == m_filters.end())
-        return false;
-    m_filters.erase(it);
-    return true;
-}
-
-bool CPaintManagerUI::PreMessageHandler(UINT uMsg, WPARAM wParam, LPARAM lParam, LRESULT& lRes)
-{
-    const auto filters = m_preFilters;
-    for (IMessageFilterUI* filter : filters) {
-        bool handled = false;
-        const LRESULT result = filter->MessageHandler(uMsg, wParam, lParam, handled);
-        if (handled) {
-            lRes = result;
-            return true;
-        }
-    }
-    return false;
-}
-
-POINT CPaintManagerUI::ToLogical(LPARAM lParam) const
-{
-    const double scale = m_dpi.GetScaleFactor();
-    return POINT{static_cast<LONG>(std::floor(GET_X_LPARAM(lParam) / scale)),
-                 static_cast<LONG>(std::floor(GET_Y_LPARAM(lParam) / scale))};
-}
-
-void CPaintManagerUI::DispatchEvent(CControlUI* control, int type, POINT pt, WPARAM wParam, LPARAM lParam,
-                                    TCHAR key)
-{
-    if (control == nullptr)
-        return;
-    TEventUI event;
-    event.Type = type;
-    event.pSender = control;
-    event.dwTimestamp = ::GetTickCount();
-    event.ptMouse = pt;
-    event.wParam = wParam;
-    event.lParam = lParam;
-    event.chKey = key;
-    control->Event(event);
-}
-
-void CPaintManagerUI::UpdateHover(CControlUI* hover, POINT pt)
-{
-    if (hover == m_pEventHover)
-        return;
-    CControlUI* old = m_pEventHover;
-    m_pEventHover = hover;
-    if (old != nullptr)
-        DispatchEvent(old, UIEVENT_MOUSELEAVE, pt);
-    if (hover != nullptr && hover == m_pEventHover)
-        DispatchEvent(hover, UIEVENT_MOUSEENTER, pt);
-}
-
-bool CPaintManagerUI::MessageHandler(UINT uMsg, WPARAM wParam, LPARAM lParam, LRESULT& lRes)
-{
-    ++m_handlerDepth;
-    bool handled = false;
-    const auto filters = m_filters;
-    for (IMessageFilterUI* filter : filters) {
-        bool filterHandled = false;
-        const LRESULT result = filter->MessageHandler(uMsg, wParam, lParam, filterHandled);
-        if (filterHandled) {
-            lRes = result;
-            handled = true;
-            break;
-        }
-    }
-    if (!handled) {
-        switch (uMsg) {
-        case UIMSG_ASYNC_NOTIFY: {
-            auto pending = std::move(m_asyncNotify);
-            m_asyncNotify.clear();
-            for (auto& msg : pending) {
-                if (msg.pSender == nullptr || IsInTree(msg.pSender))
-                    SendNotify(msg, false);
-            }
-            handled = true;
-            break;
-        }
-        case UIMSG_RUN_ON_WINDOW_THREAD:
-            (*reinterpret_cast<const std::function<void()>*>(lParam))();
-            lRes = 1;
-            handled = true;
-            break;
-        case WM_PAINT:
-            m_bPaintPosted = false;
-            Paint();
-            handled = true;
-            break;
-        case WM_SIZE: {
-            const double scale = m_dpi.GetScaleFactor();
-            SetClientSize(static_cast<int>(std::lround(LOWORD(static_cast<std::uintptr_t>(lParam)) / scale)),
-                          static_cast<int>(std::lround(HIWORD(static_cast<std::uintptr_t>(lParam)) / scale)));
-            break;
-        }
-        case WM_MOUSEMOVE: {
-            UpdateLayoutIfNeeded();
-            const POINT pt = ToLogical(lParam);
-            UpdateHover(FindControl(pt), pt);
-            if (m_pEventClick != nullptr) {
-                DispatchEvent(m_pEventClick, UIEVENT_MOUSEMOVE, pt, wParam, lParam);
-            } else if (m_pEventHover != nullptr) {
-                DispatchEvent(m_pEventHover, UIEVENT_MOUSEMOVE, pt, wParam, lParam);
-            }
-            break;
-        }
-        case WM_MOUSELEAVE:
-            UpdateHover(nullptr, POINT{-1, -1});
-            break;
-        case WM_LBUTTONDOWN:
-        case WM_LBUTTONDBLCLK: {
-            UpdateLayoutIfNeeded();
-            const POINT pt = ToLogical(lParam);
-            CControlUI* control = FindControl(pt);
-            if (control == nullptr || !control->IsEnabled())
-                break;
-            UpdateHover(control, pt);
-            m_pEventClick = control;
-            if (control->GetControlFlags() != 0)
-                SetFocus(control);
-            if (m_pEventClick != nullptr)
-                DispatchEvent(m_pEventClick, UIEVENT_BUTTONDOWN, pt, wParam, lParam);
-            break;
-        }
-        case WM_LBUTTONUP: {
-            const POINT pt = ToLogical(lParam);
-            CControlUI* control = m_pEventClick;
-            m_pEventClick = nullptr;
-            if (control != nullptr)
-                DispatchEvent(control, UIEVENT_BUTTONUP, pt, wParam, lParam);
-            break;
-        }
-        case WM_MOUSEWHEEL: {
-            UpdateLayoutIfNeeded();
-            const POINT pt = ToLogical(lParam);
-            if (CControlUI* control = FindControl(pt))
-                DispatchEvent(control, UIEVENT_SCROLLWHEEL, pt, wParam, lParam);
-            break;
-        }
-        case WM_KEYDOWN:
-            if (wParam == VK_TAB) {
-                SetNextTabControl((lParam & 1) == 0);
-                handled = true;
-            } else if (m_pFocus != nullptr) {
-                DispatchEvent(m_pFocus, UIEVENT_KEYDOWN, POINT{0, 0}, wParam, lParam,
-                              static_cast<TCHAR>(wParam));
-            }
-            break;
-        case WM_TIMER:
-            for (const auto& timer : m_timers) {
-                if (timer.windowTimerId == wParam) {
-                    CControlUI* control = timer.control;
-                    DispatchEvent(control, UIEVENT_TIMER, POINT{0, 0}, timer.id, lParam);
-                    handled = true;
-                    break;
-                }
-            }
-            break;
-        default:
-            break;
-        }
-    }
-    --m_handlerDepth;
-    if (m_handlerDepth == 0)
-        RunDelayedCleanup();
-    return handled;
-}
-
-FontPtr CPaintManagerUI::MakeScaled(const FontEntry& entry) const
-{
-    return MakeFont(entry.family, m_dpi.Scale(entry.size), entry.bold, entry.italic, entry.underline);
-}
-
-HFONT CPaintManagerUI::AddFont(int id, LPCTSTR pStrFontName, int nSize, bool bBold, bool bUnderline,
-                               bool bItalic, bool)
-{
-    FontEntry entry;
-    entry.family = pStrFontName ? pStrFontName : L"";
-    entry.size = nSize;
-    entry.bold = bBold;
-    entry.underline = bUnderline;
-    entry.italic = bItalic;
-    entry.font = MakeScaled(entry);
-    FontEntry& stored = m_fonts[id] = std::move(entry);
-    Invalidate();
-    return stored.font.get();
-}
-
-HFONT CPaintManagerUI::GetFont(int id)
-{
-    const auto found = m_fonts.find(id);
-    return found != m_fonts.end() ? found->second.font.get() : m_defaultFont.font.get();
-}
-
-void CPaintManagerUI::SetDefaultFont(LPCTSTR pStrFontName, int nSize, bool bBold, bool bUnderline,
-                                     bool bItalic, bool)
-{
-    m_defaultFont.family = pStrFontName ? pStrFontName : L"";
-    m_defaultFont.size = nSize;
-    m_defaultFont.bold = bBold;
-    m_defaultFont.underline = bUnderline;
-    m_defaultFont.italic = bItalic;
-    m_defaultFont.font = MakeScaled(m_defaultFont);
-    Invalidate();
-}
-
-void CPaintManagerUI::RebuildFonts()
-{
-    m_defaultFont.font = MakeScaled(m_defaultFont);
-    for (auto& entry : m_fonts)
-        entry.second.font = MakeScaled(entry.second);
-}
-
-void CPaintManagerUI::SetDPI(int iDPI)
-{
-    if (iDPI == m_dpi.GetDPI())
-        return;
-    m_dpi.SetScale(iDPI);
-    RebuildFonts();
-    NeedUpdate();
-    Invalidate();
+    return RemoveOne(m_filters, pFilter);
 }
 
 void CPaintManagerUI::SetInitSize(int cx, int cy)
@@ -503,67 +281,18 @@ void CPaintManagerUI::SetClientSize(int cx, int cy)
 
 void CPaintManagerUI::AddDefaultAttributeList(LPCTSTR pStrControlName, LPCTSTR pStrControlAttrList, bool)
 {
-    std::wstring name = pStrControlName ? pStrControlName : L"";
-    for (auto& ch : name)
-        ch = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(ch)));
-    m_defaultAttributes[name] = pStrControlAttrList ? pStrControlAttrList : L"";
+    m_defaultAttributes[ClassKey(pStrControlName)] = pStrControlAttrList ? pStrControlAttrList : L"";
 }
 
 LPCTSTR CPaintManagerUI::GetDefaultAttributeList(LPCTSTR pStrControlName) const
 {
-    std::wstring name = pStrControlName ? pStrControlName : L"";
-    for (auto& ch : name)
-        ch = static_cast<wchar_t>(std::towlower(static_cast<wint_t>(ch)));
-    const auto found = m_defaultAttributes.find(name);
+    const auto found = m_defaultAttributes.find(ClassKey(pStrControlName));
     return found != m_defaultAttributes.end() ? found->second.c_str() : nullptr;
 }
 
 std::shared_ptr<Image> CPaintManagerUI::GetImage(LPCTSTR file)
 {
     return m_images.Get(GetResourcePath().str(), file ? file : L"");
-}
-
-void CPaintManagerUI::SetFocus(CControlUI* pControl)
-{
-    if (pControl == m_pFocus)
-        return;
-    CControlUI* old = m_pFocus;
-    m_pFocus = nullptr;
-    if (old != nullptr) {
-        DispatchEvent(old, UIEVENT_KILLFOCUS, POINT{0, 0});
-        SendNotify(old, DUI_MSGTYPE_KILLFOCUS);
-    }
-    if (pControl != nullptr && pControl->IsVisible() && pControl->IsEnabled() && IsInTree(pControl)) {
-        m_pFocus = pControl;
-        DispatchEvent(pControl, UIEVENT_SETFOCUS, POINT{0, 0});
-        SendNotify(pControl, DUI_MSGTYPE_SETFOCUS);
-    }
-}
-
-bool CPaintManagerUI::SetNextTabControl(bool bForward)
-{
-    if (!m_root)
-        return false;
-    std::vector<CControlUI*> stops;
-    m_root->FindControl(
-        [](CControlUI* c, LPVOID data) -> CControlUI* {
-            if (c->GetControlFlags() != 0)
-                static_cast<std::vector<CControlUI*>*>(data)->push_back(c);
-            return nullptr;
-        },
-        &stops, UIFIND_VISIBLE | UIFIND_ENABLED | UIFIND_ME_FIRST);
-    if (stops.empty())
-        return false;
-    const auto current = std::find(stops.begin(), stops.end(), m_pFocus);
-    std::size_t next = 0;
-    if (current != stops.end()) {
-        const std::size_t index = static_cast<std::size_t>(current - stops.begin());
-        next = bForward ? (index + 1) % stops.size() : (index + stops.size() - 1) % stops.size();
-    } else if (!bForward) {
-        next = stops.size() - 1;
-    }
-    SetFocus(stops[next]);
-    return true;
 }
 
 void CPaintManagerUI::Invalidate()
@@ -678,15 +407,9 @@ void CPaintManagerUI::ReapObjects(CControlUI* pControl)
         m_pEventHover = nullptr;
     if (IsAncestorOrSelf(pControl, m_pFocus))
         m_pFocus = nullptr;
-    for (auto it = m_timers.begin(); it != m_timers.end();) {
-        if (IsAncestorOrSelf(pControl, it->control)) {
-            if (m_hWndPaint != nullptr)
-                ::KillTimer(m_hWndPaint, it->windowTimerId);
-            it = m_timers.erase(it);
-        } else {
-            ++it;
-        }
-    }
+    m_timers.KillIf([pControl](const ControlTimerTable::Entry& timer) {
+        return IsAncestorOrSelf(pControl, timer.control);
+    });
     for (auto& msg : m_asyncNotify) {
         if (IsAncestorOrSelf(pControl, msg.pSender))
             msg.pSender = nullptr;
@@ -695,44 +418,19 @@ void CPaintManagerUI::ReapObjects(CControlUI* pControl)
 
 bool CPaintManagerUI::SetTimer(CControlUI* pControl, UINT nTimerID, UINT uElapse)
 {
-    if (pControl == nullptr || m_hWndPaint == nullptr)
-        return false;
-    for (auto& timer : m_timers) {
-        if (timer.control == pControl && timer.id == nTimerID) {
-            return ::SetTimer(m_hWndPaint, timer.windowTimerId, uElapse, nullptr) != 0;
-        }
-    }
-    const UINT_PTR windowId = ++m_nextTimerId;
-    if (::SetTimer(m_hWndPaint, windowId, uElapse, nullptr) == 0)
-        return false;
-    m_timers.push_back(ControlTimer{pControl, nTimerID, windowId});
-    return true;
+    return m_timers.Set(pControl, nTimerID, uElapse);
 }
 
 bool CPaintManagerUI::KillTimer(CControlUI* pControl, UINT nTimerID)
 {
-    for (auto it = m_timers.begin(); it != m_timers.end(); ++it) {
-        if (it->control == pControl && it->id == nTimerID) {
-            if (m_hWndPaint != nullptr)
-                ::KillTimer(m_hWndPaint, it->windowTimerId);
-            m_timers.erase(it);
-            return true;
-        }
-    }
-    return false;
+    return m_timers.KillIf([pControl, nTimerID](const ControlTimerTable::Entry& timer) {
+        return timer.control == pControl && timer.id == nTimerID;
+    });
 }
 
 void CPaintManagerUI::KillTimer(CControlUI* pControl)
 {
-    for (auto it = m_timers.begin(); it != m_timers.end();) {
-        if (it->control == pControl) {
-            if (m_hWndPaint != nullptr)
-                ::KillTimer(m_hWndPaint, it->windowTimerId);
-            it = m_timers.erase(it);
-        } else {
-            ++it;
-        }
-    }
+    m_timers.KillIf([pControl](const ControlTimerTable::Entry& timer) { return timer.control == pControl; });
 }
 
 bool CPaintManagerUI::IsWindowThread() const

@@ -16,6 +16,7 @@
 #include "toolkit/controls/control.h"
 #include "toolkit/core/dpi.h"
 #include "toolkit/core/ui_base.h"
+#include "toolkit/paint/control_timers.h"
 #include "toolkit/render/fonts.h"
 #include "toolkit/render/images.h"
 
@@ -166,11 +167,21 @@ private:
     // "windowinit" goes out once, when the window is first painted: after
     // InitWindow, before anything is shown.
     void SendWindowInitOnce();
+
+    // Input dispatch (paint_manager_input.cpp): one member per message.
+    bool HandleOwnMessage(UINT uMsg, WPARAM wParam, LPARAM lParam, LRESULT& lRes);
+    void DeliverAsyncNotify();
+    void OnSize(LPARAM lParam);
+    void OnMouseMove(WPARAM wParam, LPARAM lParam);
+    void OnButtonDown(WPARAM wParam, LPARAM lParam);
+    void OnButtonUp(WPARAM wParam, LPARAM lParam);
+    void OnMouseWheel(WPARAM wParam, LPARAM lParam);
+    bool OnKeyDown(WPARAM wParam, LPARAM lParam);
+    bool OnTimer(WPARAM wParam, LPARAM lParam);
     void DispatchEvent(CControlUI* control, int type, POINT pt, WPARAM wParam = 0, LPARAM lParam = 0,
                        TCHAR key = 0);
     POINT ToLogical(LPARAM lParam) const;
     void UpdateHover(CControlUI* hover, POINT pt);
-    void RebuildFonts();
 
     struct FontEntry
     {
@@ -182,13 +193,8 @@ private:
         FontPtr font;
     };
     FontPtr MakeScaled(const FontEntry& entry) const;
-
-    struct ControlTimer
-    {
-        CControlUI* control;
-        UINT id;
-        UINT_PTR windowTimerId;
-    };
+    FontEntry MakeEntry(LPCTSTR family, int size, bool bold, bool underline, bool italic) const;
+    void RebuildFonts();
 
     HWND m_hWndPaint = nullptr;
     CDuiString m_sName;
@@ -219,8 +225,7 @@ private:
     RECT m_rcInvalid{0, 0, 0, 0};
     int m_handlerDepth = 0;
     std::vector<std::unique_ptr<CControlUI>> m_delayedCleanup;
-    std::vector<ControlTimer> m_timers;
-    UINT_PTR m_nextTimerId = 0x7F000000;
+    ControlTimerTable m_timers;
 };
 
 } // namespace DuiLib
