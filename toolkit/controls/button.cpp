@@ -43,8 +43,7 @@ LPVOID CButtonUI::GetInterface(LPCTSTR pstrName)
 
 UINT CButtonUI::GetControlFlags() const
 {
-    // Buttons take part in Tab navigation.
-    return IsKeyboardEnabled() && IsEnabled() ? 1u : 0u;
+    return IsKeyboardEnabled() && IsEnabled() ? UIFLAG_TABSTOP : 0u;
 }
 
 bool CButtonUI::Activate()

@@ -66,6 +66,15 @@ const std::unordered_map<std::wstring, Setter>& ControlAttributes()
 
 } // namespace
 
+bool IsControlShown(const CControlUI* control)
+{
+    for (const CControlUI* c = control; c != nullptr; c = c->GetParent()) {
+        if (!c->IsVisible())
+            return false;
+    }
+    return control != nullptr;
+}
+
 CControlUI::CControlUI() = default;
 
 CControlUI::~CControlUI()
@@ -352,6 +361,11 @@ void CControlUI::SetFocus()
 {
     if (m_pManager != nullptr)
         m_pManager->SetFocus(this);
+}
+
+bool CControlUI::ShowsFocusRing() const
+{
+    return m_bFocused;
 }
 
 CControlUI* CControlUI::FindControl(FINDCONTROLPROC Proc, LPVOID pData, UINT uFlags)

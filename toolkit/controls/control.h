@@ -105,6 +105,9 @@ public:
     virtual void SetKeyboardEnabled(bool bEnable = true);
     virtual bool IsFocused() const;
     virtual void SetFocus();
+    // Whether the border is painted in the focus border colour: when the
+    // control has the focus (a list also when one of its rows has it).
+    virtual bool ShowsFocusRing() const;
 
     // Depth-first search; see UIFIND_* for the flags.
     virtual CControlUI* FindControl(FINDCONTROLPROC Proc, LPVOID pData, UINT uFlags);
@@ -178,6 +181,10 @@ protected:
     SIZE m_cxyBorderRound{0, 0};
     CDuiString m_sBkImage;
 };
+
+// True when the control and every one of its ancestors are visible, so that
+// it can be seen once it is inside the window.
+bool IsControlShown(const CControlUI* control);
 
 // Whether two values of a control's state are the same.
 inline bool SameValue(const RECT& a, const RECT& b)

@@ -40,7 +40,8 @@ void CControlUI::PaintText(RenderContext&) {}
 
 void CControlUI::PaintBorder(RenderContext& ctx)
 {
-    const DWORD color = (m_bFocused && m_dwFocusBorderColor != 0) ? m_dwFocusBorderColor : m_dwBorderColor;
+    const DWORD color =
+        (ShowsFocusRing() && m_dwFocusBorderColor != 0) ? m_dwFocusBorderColor : m_dwBorderColor;
     ctx.DrawBorder(m_rcItem, m_nBorderSize, color, m_cxyBorderRound);
 }
 

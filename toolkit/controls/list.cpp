@@ -84,6 +84,18 @@ void CListUI::ReindexFrom(int iIndex)
     }
 }
 
+UINT CListUI::GetControlFlags() const
+{
+    return IsKeyboardEnabled() && IsEnabled() ? UIFLAG_TABSTOP : 0u;
+}
+
+bool CListUI::ShowsFocusRing() const
+{
+    // Clicking a row gives the row the focus; the list still shows it.
+    const CControlUI* focus = m_pManager != nullptr ? m_pManager->GetFocus() : nullptr;
+    return IsFocused() || (focus != nullptr && GetItemIndex(const_cast<CControlUI*>(focus)) >= 0);
+}
+
 TListInfoUI* CListUI::GetListInfo()
 {
     return &m_ListInfo;
@@ -150,15 +162,44 @@ void CListUI::EnsureVisible(int iIndex)
     CContainerUI::EnsureVisible(GetItemAt(iIndex));
 }
 
+int CListUI::FindSelectable(int iIndex, bool bForward) const
+{
+    const int step = bForward ? 1 : -1;
+    for (int i = iIndex; i >= 0 && i < GetCount(); i += step) {
+        CControlUI* row = GetItemAt(i);
+        if (AsListItem(row) != nullptr && row->IsVisible() && row->IsEnabled())
+            return i;
+    }
+    return -1;
+}
+
+int CListUI::RowForKey(TCHAR key) const
+{
+    switch (key) {
+    case VK_UP:
+        // With no selection, Up and Down both start at the top.
+        return m_iCurSel < 0 ? FindSelectable(0) : FindSelectable(m_iCurSel - 1, false);
+    case VK_DOWN:
+        return FindSelectable(m_iCurSel + 1);
+    case VK_HOME:
+        return FindSelectable(0);
+    case VK_END:
+        return FindSelectable(GetCount() - 1, false);
+    default:
+        return -1;
+    }
+}
+
 void CListUI::DoEvent(TEventUI& event)
 {
-    if (event.Type == UIEVENT_KEYDOWN && GetCount() > 0) {
-        if (event.chKey == VK_UP) {
-            SelectItem(m_iCurSel > 0 ? m_iCurSel - 1 : 0, true);
-            return;
-        }
-        if (event.chKey == VK_DOWN) {
-            SelectItem(m_iCurSel + 1 < GetCount() ? m_iCurSel + 1 : GetCount() - 1, true);
+    if (event.Type == UIEVENT_KEYDOWN) {
+        const bool navigation =
+            event.chKey == VK_UP || event.chKey == VK_DOWN || event.chKey == VK_HOME || event.chKey == VK_END;
+        if (navigation) {
+            // At either end the selection stays where it is.
+            const int row = RowForKey(event.chKey);
+            if (row >= 0)
+                SelectItem(row, true);
             return;
         }
     }
@@ -267,6 +308,9 @@ void CListContainerElementUI::DoEvent(TEventUI& event)
             if (m_pOwner != nullptr) {
                 m_pOwner->SelectItem(m_iIndex, true);
             }
+            // Also when the row was selected already: a click brings the
+            // keyboard to the list.
+            SetFocus();
             Invalidate();
         }
         return;

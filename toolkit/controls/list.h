@@ -7,6 +7,11 @@
 // old one (-1 for none). Clicking a row selects it and raises "itemclick"
 // first. Removing the selected row leaves the list without a selection and
 // raises nothing; UnSelectAllItems raises nothing either.
+//
+// Keyboard: the list is a tab stop. While it or one of its rows has the
+// focus, Up and Down select the previous and next selectable row, Home and
+// End the first and last, each raising "itemselect" as a click does; the
+// list's border then takes the focus border colour.
 
 #include "toolkit/controls/container.h"
 
@@ -64,17 +69,25 @@ public:
     bool RemoveAt(int iIndex, bool bDoNotDestroy = false) override;
     void RemoveAll() override;
 
+    UINT GetControlFlags() const override;
+    bool ShowsFocusRing() const override;
+
     TListInfoUI* GetListInfo() override;
     int GetCurSel() const override;
     bool SelectItem(int iIndex, bool bTakeFocus = false, bool bTriggerEvent = true) override;
     bool UnSelectItem(int iIndex);
     void UnSelectAllItems();
     void EnsureVisible(int iIndex);
+    // The first row from iIndex on (or back) that can be selected: a list
+    // item, visible and enabled; -1 when there is none.
+    int FindSelectable(int iIndex, bool bForward = true) const;
     void DoEvent(TEventUI& event) override;
     void SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue) override;
 
 protected:
     void ReindexFrom(int iIndex);
+    // The row a navigation key leads to, or -1 for a key the list ignores.
+    int RowForKey(TCHAR key) const;
 
     int m_iCurSel = -1;
     TListInfoUI m_ListInfo;

@@ -122,6 +122,13 @@ enum : UINT
     UISTATE_CAPTURED = 0x40,
 };
 
+// What CControlUI::GetControlFlags answers: a tab stop takes part in Tab
+// navigation and takes the focus when clicked.
+enum : UINT
+{
+    UIFLAG_TABSTOP = 0x01,
+};
+
 // Flags for CControlUI::FindControl.
 enum : UINT
 {

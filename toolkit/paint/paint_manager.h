@@ -126,7 +126,9 @@ public:
     CControlUI* GetFocus() const { return m_pFocus; }
     void SetFocus(CControlUI* pControl);
     // Moves the focus to the next (or previous) control that takes part in
-    // Tab navigation, wrapping around.
+    // Tab navigation (UIFLAG_TABSTOP, visible, enabled), in tree order,
+    // wrapping around. A focused control that is no tab stop itself counts
+    // as its nearest ancestor that is one (a row as its list).
     bool SetNextTabControl(bool bForward = true);
 
     void Invalidate();

@@ -234,7 +234,10 @@ bool CPaintManagerUI::SetNextTabControl(bool bForward)
         &stops, UIFIND_VISIBLE | UIFIND_ENABLED | UIFIND_ME_FIRST);
     if (stops.empty())
         return false;
-    const auto current = std::find(stops.begin(), stops.end(), m_pFocus);
+    // A focused row counts as its list: Tab goes on from the list.
+    auto current = stops.end();
+    for (CControlUI* c = m_pFocus; c != nullptr && current == stops.end(); c = c->GetParent())
+        current = std::find(stops.begin(), stops.end(), c);
     std::size_t next = 0;
     if (current != stops.end()) {
         const std::size_t index = static_cast<std::size_t>(current - stops.begin());

@@ -49,8 +49,18 @@ LRESULT WindowImplBase::MessageHandler(UINT uMsg, WPARAM wParam, LPARAM, bool& b
 
 LRESULT WindowImplBase::ResponseDefaultKeyEvent(WPARAM wParam)
 {
-    // Enter goes on to the focused control; Escape does nothing by default.
-    return wParam == VK_ESCAPE ? TRUE : FALSE;
+    if (wParam != VK_ESCAPE)
+        return FALSE; // Enter goes on to the focused control.
+    // Escape does what a click on the window's close button does, when it
+    // has one that can be clicked; either way the key stops here.
+    for (LPCTSTR name : {L"btn_close", L"closebtn"}) {
+        CControlUI* close = m_pm.FindControl(name);
+        if (close != nullptr && close->GetInterface(DUI_CTR_BUTTON) != nullptr && IsControlShown(close) &&
+            close->Activate()) {
+            break;
+        }
+    }
+    return TRUE;
 }
 
 int WindowImplBase::InitialDPI() const
@@ -127,6 +137,13 @@ LRESULT WindowImplBase::HandleMessage(UINT uMsg, WPARAM wParam, LPARAM lParam)
         return lRes;
     lRes = HandleCustomMessage(uMsg, wParam, lParam, bHandled);
     if (bHandled)
+        return lRes;
+    // A DuiLib message loop offers keys to the pre-message filters before
+    // any window procedure sees them; our loops dispatch straight to the
+    // procedure, so the filters get them here. A window that calls
+    // PreMessageHandler itself has had the default keys taken before it
+    // calls the base, so nothing happens twice.
+    if (uMsg >= WM_KEYDOWN && uMsg <= WM_SYSKEYUP && m_pm.PreMessageHandler(uMsg, wParam, lParam, lRes))
         return lRes;
     if (m_pm.MessageHandler(uMsg, wParam, lParam, lRes))
         return lRes;

@@ -46,8 +46,13 @@ protected:
 
     CControlUI* CreateControl(LPCTSTR pstrClass) override;
     LPCTSTR QueryControlText(LPCTSTR lpstrId, LPCTSTR lpstrType) override;
-    // Pre-message filter: Escape is swallowed, other keys pass.
+    // Pre-message filter: Enter and Escape go to ResponseDefaultKeyEvent,
+    // which takes the key when it answers non-zero.
     LRESULT MessageHandler(UINT uMsg, WPARAM wParam, LPARAM lParam, bool& bHandled) override;
+    // Enter: 0, so the focused control gets it (a focused button clicks).
+    // Escape: raises the "click" a mouse click would on the close button,
+    // the control named "btn_close" or else "closebtn", when there is one
+    // that is shown and enabled; the key is taken either way.
     virtual LRESULT ResponseDefaultKeyEvent(WPARAM wParam);
 
     LRESULT HandleMessage(UINT uMsg, WPARAM wParam, LPARAM lParam) override;
