@@ -83,6 +83,7 @@ CPaintManagerUI::CPaintManagerUI()
 
 CPaintManagerUI::~CPaintManagerUI()
 {
+    m_gate.Shut();
     m_delayedCleanup.clear();
     m_timers.KillIf([](const ControlTimerTable::Entry&) { return true; });
     m_pFocus = m_pEventHover = m_pEventClick = nullptr;
@@ -445,7 +446,12 @@ bool CPaintManagerUI::RunOnWindowThread(const std::function<void()>& work)
         work();
         return true;
     }
-    return ::SendMessageW(m_hWndPaint, UIMSG_RUN_ON_WINDOW_THREAD, 0, reinterpret_cast<LPARAM>(&work)) != 0;
+    if (!m_gate.Enter())
+        return false;
+    const bool ran =
+        ::SendMessageW(m_hWndPaint, UIMSG_RUN_ON_WINDOW_THREAD, 0, reinterpret_cast<LPARAM>(&work)) != 0;
+    m_gate.Leave();
+    return ran;
 }
 
 bool CPaintManagerUI::IsInTree(const CControlUI* pControl) const

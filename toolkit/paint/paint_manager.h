@@ -17,6 +17,7 @@
 #include "toolkit/core/dpi.h"
 #include "toolkit/core/ui_base.h"
 #include "toolkit/paint/control_timers.h"
+#include "toolkit/paint/window_thread_gate.h"
 #include "toolkit/render/fonts.h"
 #include "toolkit/render/images.h"
 
@@ -157,7 +158,9 @@ public:
 
     // Runs `work` on the window's thread: at once when called there,
     // otherwise through SendMessageW, waiting for it. Returns false (and
-    // runs nothing) when the window is gone.
+    // runs nothing) when the window is gone or being destroyed: from
+    // WM_DESTROY on, other threads get false at once, so a window may join
+    // a thread that calls here while it closes.
     bool RunOnWindowThread(const std::function<void()>& work);
     bool IsWindowThread() const;
 
@@ -228,6 +231,7 @@ private:
     int m_handlerDepth = 0;
     std::vector<std::unique_ptr<CControlUI>> m_delayedCleanup;
     ControlTimerTable m_timers;
+    WindowThreadGate m_gate;
 };
 
 } // namespace DuiLib

@@ -55,9 +55,14 @@ bool CPaintManagerUI::HandleOwnMessage(UINT uMsg, WPARAM wParam, LPARAM lParam, 
         DeliverAsyncNotify();
         return true;
     case UIMSG_RUN_ON_WINDOW_THREAD:
-        (*reinterpret_cast<const std::function<void()>*>(lParam))();
-        lRes = 1;
+        // Work that arrives while the window goes is dropped; its caller gets 0.
+        lRes = m_gate.IsShut() ? 0 : 1;
+        if (lRes != 0)
+            (*reinterpret_cast<const std::function<void()>*>(lParam))();
         return true;
+    case WM_DESTROY:
+        m_gate.Shut();
+        return false;
     case WM_PAINT:
         m_bPaintPosted = false;
         Paint();

@@ -15,5 +15,7 @@ constexpr UINT UIMSG_GETCLIENTRECT = 0x7FF2;
 constexpr UINT UIMSG_GETWINDOWRECT = 0x7FF3;
 // CPaintManagerUI::RunOnWindowThread: lParam points to the function to run.
 constexpr UINT UIMSG_RUN_ON_WINDOW_THREAD = 0x7FF4;
+// CWindowWnd::CenterWindow asked from another thread.
+constexpr UINT UIMSG_CENTERWINDOW = 0x7FF5;
 
 } // namespace DuiLib

@@ -71,7 +71,7 @@ LRESULT CWindowWnd::Dispatch(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam)
     if (m_hWnd == nullptr && uMsg == WM_CREATE) {
         // First message: the handle exists, the surface comes before the
         // window's own WM_CREATE work so that it can size itself.
-        m_hWnd = hWnd;
+        SetHandle(hWnd);
         ThreadWindows()[hWnd] = this;
         m_surface = CreateNativeSurface(hWnd, DefaultSurfaceKind());
         m_surface->SetTitle(m_sTitle.str());
@@ -89,6 +89,9 @@ LRESULT CWindowWnd::Dispatch(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam)
     case UIMSG_GETWINDOWRECT:
         *reinterpret_cast<RECT*>(lParam) = m_rcWindow;
         return 1;
+    case UIMSG_CENTERWINDOW:
+        CenterWindow();
+        return 1;
     case WM_CLOSE:
         m_modal->closeCode = static_cast<UINT>(wParam);
         break;
@@ -99,11 +102,17 @@ LRESULT CWindowWnd::Dispatch(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam)
         const LRESULT result = HandleMessage(uMsg, wParam, lParam);
         ThreadWindows().erase(hWnd);
         m_surface.reset();
-        m_hWnd = nullptr;
+        SetHandle(nullptr);
         OnFinalMessage(hWnd);
         return result;
     }
     return HandleMessage(uMsg, wParam, lParam);
+}
+
+void CWindowWnd::SetHandle(HWND hWnd)
+{
+    m_hWnd = hWnd;
+    m_hWndShared.store(hWnd);
 }
 
 void CWindowWnd::SetGeometry(const RECT& rc)
@@ -166,14 +175,20 @@ UINT CWindowWnd::ShowModal()
 
 void CWindowWnd::Close(UINT nRet)
 {
-    if (m_hWnd != nullptr)
-        ::PostMessageW(m_hWnd, WM_CLOSE, static_cast<WPARAM>(nRet), 0);
+    if (const HWND hwnd = GetHWND())
+        ::PostMessageW(hwnd, WM_CLOSE, static_cast<WPARAM>(nRet), 0);
 }
 
 void CWindowWnd::CenterWindow()
 {
-    if (m_hWnd == nullptr)
+    const HWND hwnd = GetHWND();
+    if (hwnd == nullptr)
         return;
+    // The geometry and the parent belong to the window's thread.
+    if (::GetWindowThreadProcessId(hwnd, nullptr) != ::GetCurrentThreadId()) {
+        ::PostMessageW(hwnd, UIMSG_CENTERWINDOW, 0, 0);
+        return;
+    }
     const int width = m_rcWindow.right - m_rcWindow.left;
     const int height = m_rcWindow.bottom - m_rcWindow.top;
     RECT area{0, 0, 0, 0};
@@ -202,12 +217,12 @@ void CWindowWnd::ResizeClient(int cx, int cy)
 
 LRESULT CWindowWnd::SendMessage(UINT uMsg, WPARAM wParam, LPARAM lParam)
 {
-    return ::SendMessageW(m_hWnd, uMsg, wParam, lParam);
+    return ::SendMessageW(GetHWND(), uMsg, wParam, lParam);
 }
 
 LRESULT CWindowWnd::PostMessage(UINT uMsg, WPARAM wParam, LPARAM lParam)
 {
-    return ::PostMessageW(m_hWnd, uMsg, wParam, lParam);
+    return ::PostMessageW(GetHWND(), uMsg, wParam, lParam);
 }
 
 LRESULT CWindowWnd::HandleMessage(UINT uMsg, WPARAM, LPARAM)

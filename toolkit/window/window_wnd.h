@@ -7,6 +7,7 @@
 // Geometry is in device pixels. Windows have no non-client area: the client
 // rectangle is the whole window.
 
+#include <atomic>
 #include <memory>
 
 #include "platform/win32.h"
@@ -31,8 +32,10 @@ public:
     CWindowWnd(const CWindowWnd&) = delete;
     CWindowWnd& operator=(const CWindowWnd&) = delete;
 
-    HWND GetHWND() const { return m_hWnd; }
-    operator HWND() const { return m_hWnd; } // NOLINT: as DuiLib
+    // The handle, readable from any thread (window code on the window's
+    // thread may read m_hWnd directly).
+    HWND GetHWND() const { return m_hWndShared.load(); }
+    operator HWND() const { return GetHWND(); } // NOLINT: as DuiLib
 
     // Makes the window on the calling thread; it is hidden until ShowWindow
     // or ShowModal. Styles are accepted for compatibility and not used.
@@ -50,12 +53,14 @@ public:
     // any thread: it posts WM_CLOSE.
     void Close(UINT nRet = IDOK);
     // Centres over the parent window when it has one, else on the screen.
+    // From another thread the request is posted to the window's thread.
     void CenterWindow();
     void ResizeClient(int cx = -1, int cy = -1);
     RECT GetWindowRect() const { return m_rcWindow; }
     bool IsShown() const;
     NativeSurface* GetSurface() const { return m_surface.get(); }
 
+    // Safe from any thread, as the Win32 calls are.
     LRESULT SendMessage(UINT uMsg, WPARAM wParam = 0, LPARAM lParam = 0);
     LRESULT PostMessage(UINT uMsg, WPARAM wParam = 0, LPARAM lParam = 0);
 
@@ -79,6 +84,11 @@ private:
     LRESULT Dispatch(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam);
     void SetGeometry(const RECT& rc);
 
+    void SetHandle(HWND hWnd);
+
+    // m_hWnd for other threads: they may ask for the handle, close or
+    // centre the window while its thread creates or destroys it.
+    std::atomic<HWND> m_hWndShared{nullptr};
     RECT m_rcWindow{0, 0, 0, 0};
     std::unique_ptr<NativeSurface> m_surface;
     std::shared_ptr<ModalState> m_modal;
