@@ -14,6 +14,7 @@
 #include "toolkit/core/dui_string.h"
 #include "toolkit/core/resource_manager.h"
 #include "toolkit/core/ui_base.h"
+#include "toolkit/paint/control_dump.h"
 #include "toolkit/paint/dialog_builder.h"
 #include "toolkit/paint/notify_pump.h"
 #include "toolkit/paint/paint_manager.h"

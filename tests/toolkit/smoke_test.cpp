@@ -1,8 +1,11 @@
 // The gallery in a real SDL2 window under Xvfb: a button is clicked with
-// xdotool and a screenshot is taken. Skipped where xvfb-run is missing.
+// xdotool, keys are typed, the window's live control dump is read and
+// screenshots are taken. Skipped where xvfb-run or xdotool is missing.
 
 #include <cairo.h>
 #include <gtest/gtest.h>
+
+#include <json/reader.h>
 
 #include <cstdint>
 #include <cstdlib>
@@ -109,6 +112,32 @@ bool ControlPosition(const std::string& output, const std::string& name, int& x,
     return static_cast<bool>(in >> x >> y);
 }
 
+// The control named `name` in a control dump, or null.
+const Json::Value* FindInDump(const Json::Value& node, const std::string& name)
+{
+    if (node["name"].asString() == name)
+        return &node;
+    for (const auto& child : node["children"]) {
+        if (const Json::Value* found = FindInDump(child, name))
+            return found;
+    }
+    return nullptr;
+}
+
+bool ParseDump(const std::string& text, Json::Value& dump)
+{
+    Json::CharReaderBuilder builder;
+    std::string errors;
+    std::istringstream in(text);
+    return Json::parseFromStream(builder, in, &dump, &errors) && dump.isObject();
+}
+
+// Runs a shell script under a fresh Xvfb screen; its exit status.
+int RunUnderXvfb(const std::string& script)
+{
+    return std::system(("xvfb-run -a -s '-screen 0 1280x800x24' sh '" + script + "'").c_str());
+}
+
 } // namespace
 
 TEST(GallerySmoke, ButtonClickedWithXdotoolInARealWindow)
@@ -150,8 +179,7 @@ TEST(GallerySmoke, ButtonClickedWithXdotoolInARealWindow)
             << "kill $pid 2>/dev/null\n"
             << "wait $pid\n";
     }
-    const std::string command = "xvfb-run -a -s '-screen 0 1280x800x24' sh '" + script + "'";
-    const int status = std::system(command.c_str());
+    const int status = RunUnderXvfb(script);
     const std::string output = ReadFile(log);
     EXPECT_EQ(status, 0) << output;
     EXPECT_NE(output.find("gallery: ready"), std::string::npos) << output;
@@ -171,5 +199,81 @@ TEST(GallerySmoke, ButtonClickedWithXdotoolInARealWindow)
     EXPECT_TRUE(edge == 0x2B6FF8u || edge == 0x0A59F7u) << std::hex << edge;
     // The window's background is painted around it.
     EXPECT_EQ(screen.At(x, y - 40), 0xFFFFFFu) << std::hex << screen.At(x, y - 40);
+#endif
+}
+
+TEST(GallerySmoke, TabShowsTheFocusRingEscapeClosesAndTheDumpFollowsTheWindow)
+{
+#ifndef TOOLKIT_GALLERY_PATH
+    GTEST_SKIP() << "toolkit-gallery is not built";
+#else
+    if (!OnPath("xvfb-run") || !OnPath("xdotool") || !OnPath("xwd"))
+        GTEST_SKIP() << "xvfb-run, xdotool and xwd are needed for the smoke test";
+    const std::filesystem::path dir = std::filesystem::path(SPACEMGM_BINARY_DIR) / "test-output" / "toolkit";
+    std::filesystem::create_directories(dir);
+    const std::string log = (dir / "smoke_keys.log").string();
+    const std::string dump = (dir / "smoke_keys.json").string();
+    const std::string afterClick = (dir / "smoke_keys_after_click.json").string();
+    const std::string xwd = (dir / "smoke_keys.xwd").string();
+    const std::string script = (dir / "smoke_keys.sh").string();
+    for (const auto& file : {log, dump, afterClick, xwd})
+        std::filesystem::remove(file);
+    {
+        std::ofstream out(script);
+        out << "set -u\n"
+            << "SPACEMGM_TOOLKIT_BACKEND=sdl '" << TOOLKIT_GALLERY_PATH << "' --root '" << SPACEMGM_SOURCE_DIR
+            << "' --dump-controls '" << dump << "' > '" << log << "' 2>&1 &\n"
+            << "pid=$!\n"
+            << "for i in $(seq 1 100); do grep -q 'gallery: control btn_primary' '" << log << "' && [ -f '"
+            << dump << "' ] && break; sleep 0.1; done\n"
+            << "sleep 0.5\n"
+            << "set -- $(grep 'gallery: control btn_primary' '" << log << "' | head -1)\n"
+            << "xdotool mousemove \"$4\" \"$5\" click 1\n"
+            // The click moves the progress bar from 64 to 76: wait for the dump to say so.
+            << "for i in $(seq 1 50); do grep -q '\"name\": \"progress\".*\"value\": 76' '" << dump
+            << "' && break; sleep 0.1; done\n"
+            << "cp '" << dump << "' '" << afterClick << "'\n"
+            << "xdotool key Tab\n"
+            << "sleep 0.5\n"
+            << "xwd -root -silent > '" << xwd << "'\n"
+            << "xdotool key Escape\n"
+            << "for i in $(seq 1 50); do kill -0 $pid 2>/dev/null || break; sleep 0.1; done\n"
+            << "kill $pid 2>/dev/null\n"
+            << "wait $pid\n";
+    }
+    const int status = RunUnderXvfb(script);
+    const std::string output = ReadFile(log);
+    EXPECT_EQ(status, 0) << output;
+    // Escape pressed the close button, which closes the gallery with 1.
+    EXPECT_NE(output.find("gallery: click btn_close"), std::string::npos) << output;
+    EXPECT_NE(output.find("gallery: closed 1"), std::string::npos) << output;
+
+    Json::Value clicked;
+    ASSERT_TRUE(ParseDump(ReadFile(afterClick), clicked)) << "no dump at " << afterClick;
+    EXPECT_EQ(clicked["window"].asString(), "ToolkitGallery");
+    const Json::Value* progress = FindInDump(clicked["controls"], "progress");
+    ASSERT_NE(progress, nullptr);
+    EXPECT_EQ((*progress)["value"].asInt(), 76);
+    const Json::Value* statusLabel = FindInDump(clicked["controls"], "status");
+    ASSERT_NE(statusLabel, nullptr);
+    EXPECT_EQ((*statusLabel)["text"].asString(), "Clicked: Primary");
+
+    // After Tab the focus ring, in the default focus colour, is on the next
+    // button: on its edge, not inside it.
+    const Json::Value* secondary = FindInDump(clicked["controls"], "btn_secondary");
+    ASSERT_NE(secondary, nullptr);
+    long left = 0;
+    long top = 0;
+    std::istringstream ready(output.substr(output.find("gallery: ready ") + 15));
+    ASSERT_TRUE(ready >> left >> top);
+    Screen screen;
+    ASSERT_TRUE(ReadXwd(xwd, screen)) << "no screenshot at " << xwd;
+    ASSERT_TRUE(WritePng(screen, (dir / "smoke_keys.png").string()));
+    const int x = static_cast<int>(left) + (*secondary)["x"].asInt();
+    const int y = static_cast<int>(top) + (*secondary)["y"].asInt() + (*secondary)["height"].asInt() / 2;
+    ASSERT_LT(x + 6, screen.width);
+    EXPECT_EQ(screen.At(x, y), 0x0A59F7u) << std::hex << screen.At(x, y);
+    EXPECT_EQ(screen.At(x + 1, y), 0x0A59F7u) << std::hex << screen.At(x + 1, y);
+    EXPECT_EQ(screen.At(x + 5, y), 0xE9EBEFu) << std::hex << screen.At(x + 5, y);
 #endif
 }

@@ -66,7 +66,18 @@ void GalleryWindow::SelectTab(int index)
         button->SetHotBkColor(on ? 0xFF2B6FF8 : 0xFFDADDE2);
         button->SetPushedBkColor(on ? 0xFF0847C6 : 0xFFCBCFD6);
         button->SetTextColor(on ? 0xFFFFFFFF : 0xFF1A1A1A);
+        // The focus ring must stand out from the button's own colour.
+        button->SetFocusBorderColor(on ? 0xFF082A6E : 0xFF0A59F7);
     }
+}
+
+bool GalleryWindow::FocusControl(LPCTSTR name)
+{
+    CControlUI* control = m_pm.FindControl(name);
+    if (control == nullptr)
+        return false;
+    control->SetFocus();
+    return m_pm.GetFocus() == control;
 }
 
 void GalleryWindow::ReportReady()
@@ -137,16 +148,6 @@ void GalleryWindow::Notify(TNotifyUI& msg)
         std::fflush(stdout);
     }
     WindowImplBaseEx::Notify(msg);
-}
-
-LRESULT GalleryWindow::HandleCustomMessage(UINT uMsg, WPARAM wParam, LPARAM, BOOL& bHandled)
-{
-    bHandled = FALSE;
-    if (uMsg == WM_KEYDOWN && wParam == VK_ESCAPE) {
-        Close(1);
-        bHandled = TRUE;
-    }
-    return 0;
 }
 
 } // namespace gallery

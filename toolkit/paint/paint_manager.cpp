@@ -348,18 +348,27 @@ void CPaintManagerUI::Paint()
         return;
     UpdateLayoutIfNeeded();
     SendWindowInitOnce();
-    if (m_target == nullptr) {
-        m_rcInvalid = RECT{0, 0, 0, 0};
-        return;
+    if (m_target != nullptr) {
+        cairo_t* cr = m_target->BeginPaint(m_dpi.Scale(m_szClient.cx), m_dpi.Scale(m_szClient.cy));
+        if (cr == nullptr)
+            return;
+        Render(cr);
+        m_target->EndPaint(cr);
     }
-    const int width = m_dpi.Scale(m_szClient.cx);
-    const int height = m_dpi.Scale(m_szClient.cy);
-    cairo_t* cr = m_target->BeginPaint(width, height);
-    if (cr == nullptr)
-        return;
-    Render(cr);
-    m_target->EndPaint(cr);
     m_rcInvalid = RECT{0, 0, 0, 0};
+    m_dumpFile.Refresh(*this);
+}
+
+void CPaintManagerUI::SetControlDumpPath(LPCTSTR pstrPath)
+{
+    m_dumpFile.SetPath(attr::Narrow(pstrPath ? pstrPath : L""));
+    // The file comes with the next frame.
+    Invalidate();
+}
+
+CDuiString CPaintManagerUI::GetControlDumpPath() const
+{
+    return CDuiString(attr::Widen(m_dumpFile.Path()));
 }
 
 void CPaintManagerUI::Render(cairo_t* cr)

@@ -16,6 +16,7 @@
 #include "toolkit/controls/control.h"
 #include "toolkit/core/dpi.h"
 #include "toolkit/core/ui_base.h"
+#include "toolkit/paint/control_dump_file.h"
 #include "toolkit/paint/control_timers.h"
 #include "toolkit/paint/window_thread_gate.h"
 #include "toolkit/render/fonts.h"
@@ -143,6 +144,11 @@ public:
     // Paints the whole tree into `cr` (device pixels) regardless of what is
     // invalid; used by targets and tests.
     void Render(cairo_t* cr);
+    // With a path, the window's control dump (control_dump.h) is written
+    // there after the next frame and rewritten after every frame whose dump
+    // changed, so that scripts can read a live window. Empty: no file.
+    void SetControlDumpPath(LPCTSTR pstrPath);
+    CDuiString GetControlDumpPath() const;
 
     // Removed controls are destroyed once the current message is handled,
     // so that a control may remove itself (or its row) from its own event.
@@ -232,6 +238,7 @@ private:
     std::vector<std::unique_ptr<CControlUI>> m_delayedCleanup;
     ControlTimerTable m_timers;
     WindowThreadGate m_gate;
+    ControlDumpFile m_dumpFile;
 };
 
 } // namespace DuiLib

@@ -70,7 +70,8 @@ int WindowImplBase::InitialDPI() const
 
 LRESULT WindowImplBase::OnCreate(UINT, WPARAM, LPARAM, BOOL&)
 {
-    m_pm.Init(m_hWnd);
+    // The class name names the window in its control dump.
+    m_pm.Init(m_hWnd, GetWindowClassName());
     m_pm.SetDPI(InitialDPI());
     m_pm.AddPreMessageFilter(this);
     const CDuiString folder = GetSkinFolder();
