@@ -214,6 +214,21 @@ void CContainerUI::ArrangeChildren()
     } else {
         m_iContentHeight = m_layout->Arrange(*this, area, 0);
     }
+    PlaceFloatingChildren();
+}
+
+void CContainerUI::PlaceFloatingChildren()
+{
+    for (const auto& item : m_items) {
+        if (!item->IsFloat() || !item->IsVisible())
+            continue;
+        const SIZE xy = item->GetFixedXY();
+        const int width = item->GetFixedWidth();
+        const int height = item->GetFixedHeight();
+        const int left = xy.cx >= 0 ? m_rcItem.left + xy.cx : m_rcItem.right + xy.cx - width;
+        const int top = xy.cy >= 0 ? m_rcItem.top + xy.cy : m_rcItem.bottom + xy.cy - height;
+        item->SetPos(RECT{left, top, left + width, top + height}, false);
+    }
 }
 
 void CContainerUI::SetPos(RECT rc, bool bNeedInvalidate)

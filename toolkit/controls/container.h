@@ -131,6 +131,9 @@ public:
 
 protected:
     void ArrangeChildren();
+    // Floating children stand where their fixed position puts them, out of
+    // the layout and the scrolling.
+    void PlaceFloatingChildren();
     virtual void PaintScrollBar(RenderContext& ctx);
     // Wheel, thumb drag and track clicks of the scroll bar; true when the
     // event was the scroll bar's.

@@ -33,6 +33,10 @@ const std::unordered_map<std::wstring, Setter>& ControlAttributes()
          [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetMaxHeight(attr::ParseInt(n, v)); }},
         {L"padding",
          [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetPadding(attr::ParseRect(n, v)); }},
+        {L"float",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetFloat(attr::ParseBool(n, v)); }},
+        {L"pos",
+         [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetPosAttribute(attr::ParseRect(n, v)); }},
         {L"visible",
          [](CControlUI& c, const wchar_t* n, const wchar_t* v) { c.SetVisible(attr::ParseBool(n, v)); }},
         {L"enabled",
@@ -268,6 +272,27 @@ void CControlUI::SetMaxHeight(int cy)
 {
     if (cy >= 0 && Assign(m_cxyMax.cy, cy))
         NeedParentUpdate();
+}
+
+void CControlUI::SetFloat(bool bFloat)
+{
+    if (Assign(m_bFloat, bFloat))
+        NeedParentUpdate();
+}
+
+void CControlUI::SetFixedXY(SIZE szXY)
+{
+    if (Assign(m_cXY, szXY))
+        NeedParentUpdate();
+}
+
+void CControlUI::SetPosAttribute(RECT rcPos)
+{
+    // A negative left (top) anchors the control to the right (bottom) edge,
+    // where its right (bottom) coordinate then says how far from it.
+    SetFixedXY(SIZE{rcPos.left >= 0 ? rcPos.left : rcPos.right, rcPos.top >= 0 ? rcPos.top : rcPos.bottom});
+    SetFixedWidth(rcPos.right - rcPos.left);
+    SetFixedHeight(rcPos.bottom - rcPos.top);
 }
 
 CDuiString CControlUI::GetToolTip() const

@@ -80,6 +80,18 @@ public:
     int GetMaxHeight() const { return m_cxyMax.cy; }
     void SetMaxHeight(int cy);
 
+    // A floating control keeps out of its container's layout and stands at
+    // its fixed position, relative to the container's rectangle: x and y
+    // from the left and top edges, or, when negative, from the right and
+    // bottom edges (DuiLib's float="true" pos="l,t,r,b").
+    bool IsFloat() const { return m_bFloat; }
+    void SetFloat(bool bFloat = true);
+    SIZE GetFixedXY() const { return m_cXY; }
+    void SetFixedXY(SIZE szXY);
+    // The `pos` attribute: the fixed position and, for any control, the
+    // fixed size (right - left, bottom - top).
+    void SetPosAttribute(RECT rcPos);
+
     virtual CDuiString GetToolTip() const;
     virtual void SetToolTip(LPCTSTR pstrText);
 
@@ -164,6 +176,8 @@ protected:
     RECT m_rcItem{0, 0, 0, 0};
     RECT m_rcPadding{0, 0, 0, 0};
     SIZE m_cxyFixed{0, 0};
+    SIZE m_cXY{0, 0};
+    bool m_bFloat = false;
     SIZE m_cxyMin{0, 0};
     SIZE m_cxyMax{9999, 9999};
     bool m_bVisible = true;

@@ -22,7 +22,7 @@ std::vector<Child> VisibleChildren(CContainerUI& owner, SIZE available)
 {
     std::vector<Child> children;
     for (const auto& item : owner.items()) {
-        if (!item->IsVisible())
+        if (!item->IsVisible() || item->IsFloat())
             continue;
         children.push_back(Child{item.get(), item->EstimateSize(available), item->GetPadding()});
     }

@@ -222,6 +222,13 @@ void CListUI::SetAttribute(LPCTSTR pstrName, LPCTSTR pstrValue)
          [](CListUI& c, const wchar_t* n, const wchar_t* v) {
              c.m_ListInfo.dwDisabledBkColor = attr::ParseColor(n, v);
          }},
+        // DuiLib lists have a column header unless it is hidden; ours have
+        // none, so a skin says header="hidden" to look the same in both.
+        {L"header",
+         [](CListUI&, const wchar_t* n, const wchar_t* v) {
+             if (std::wstring(v) != L"hidden")
+                 throw AttributeError(AttributeError::Kind::BadValue, n, v);
+         }},
         {L"itemlinecolor", [](CListUI& c, const wchar_t* n,
                               const wchar_t* v) { c.m_ListInfo.dwLineColor = attr::ParseColor(n, v); }},
     };

@@ -88,10 +88,10 @@ DWORD ParseColor(const wchar_t* name, const wchar_t* value)
         if (!std::iswxdigit(static_cast<wint_t>(ch)))
             Bad(name, value);
     }
-    DWORD color = static_cast<DWORD>(std::wcstoul(text.c_str(), nullptr, 16));
-    if (text.size() == 6)
-        color |= 0xFF000000u;
-    return color;
+    // As in DuiLib, the digits are read as one number: six digits leave the
+    // alpha byte 0, which fills and borders treat as transparent and text
+    // ignores.
+    return static_cast<DWORD>(std::wcstoul(text.c_str(), nullptr, 16));
 }
 
 int ParseInt(const wchar_t* name, const wchar_t* value)

@@ -49,7 +49,8 @@ struct SkinError
 
 namespace attr {
 
-// "#AARRGGBB", "#RRGGBB" (opaque) or "0xAARRGGBB".
+// "#AARRGGBB" or "0xAARRGGBB"; "#RRGGBB" is read as DuiLib reads it, with
+// an alpha of 0 (no fill or border; text colours ignore alpha).
 DWORD ParseColor(const wchar_t* name, const wchar_t* value);
 // A whole decimal number.
 int ParseInt(const wchar_t* name, const wchar_t* value);

@@ -118,6 +118,13 @@ CControlUI* CreateBuiltinControl(const std::wstring& className)
     return found != factories.end() ? found->second() : nullptr;
 }
 
+bool IsToolkitExtension(const std::wstring& attributeName)
+{
+    // Progress end rounding is set from code (SetRoundRectDirection) in a
+    // DuiLib skin.
+    return attributeName == L"rounddirection";
+}
+
 struct CDialogBuilder::Parser
 {
     using WindowSetter = AttributeSetter<Parser>;
@@ -168,6 +175,7 @@ struct CDialogBuilder::Parser
 
     IDialogBuilderCallback* callback;
     CPaintManagerUI* manager;
+    bool duiLibOnly;
 
     [[noreturn]] static void Fail(const pugi::xml_node& node, std::wstring name, std::string message)
     {
@@ -211,6 +219,16 @@ struct CDialogBuilder::Parser
         }
     }
 
+    // In a DuiLib-only build, an attribute of this toolkit's own is an error:
+    // the skin must mean the same to DuiLib.
+    void RefuseExtension(const pugi::xml_node& node, const std::wstring& name) const
+    {
+        if (duiLibOnly && IsToolkitExtension(name)) {
+            Fail(node, name,
+                 "'" + attr::Narrow(name) + "' is an extension of this toolkit, not a DuiLib attribute");
+        }
+    }
+
     void ApplyDefault(const pugi::xml_node& node)
     {
         const std::wstring name = W(node.attribute("name").value());
@@ -223,6 +241,8 @@ struct CDialogBuilder::Parser
                 Fail(node, W(a.name()), "Default: unknown attribute '" + key + "'");
             }
         }
+        attr::ForEachInList(
+            value.c_str(), [&](const std::wstring& key, const std::wstring&) { RefuseExtension(node, key); });
         // Check the list now, so a typo is reported where it was written.
         std::unique_ptr<CControlUI> probe(CreateBuiltinControl(name));
         if (!probe && callback)
@@ -261,6 +281,7 @@ struct CDialogBuilder::Parser
             std::wstring value = W(a.value());
             if (name == L"text" || name == L"tooltip")
                 value = Localised(value);
+            RefuseExtension(node, name);
             try {
                 control->SetAttribute(name.c_str(), value.c_str());
             } catch (const AttributeError& e) {
@@ -321,7 +342,7 @@ CControlUI* CDialogBuilder::Create(STRINGorID xml, LPCTSTR, IDialogBuilderCallba
         return nullptr;
     }
 
-    Parser parser{pCallback, pManager};
+    Parser parser{pCallback, pManager, m_bDuiLibOnly};
     try {
         pugi::xml_node root = doc.document_element();
         CControlUI* result = nullptr;

@@ -55,6 +55,11 @@ public:
     CControlUI* Create(STRINGorID xml, LPCTSTR type = nullptr, IDialogBuilderCallback* pCallback = nullptr,
                        CPaintManagerUI* pManager = nullptr, CControlUI* pParent = nullptr);
 
+    // With `duiLibOnly`, Create refuses (as a SkinError) attributes that
+    // only this toolkit knows (IsToolkitExtension), so that a skin can be
+    // checked to mean the same to DuiLib.
+    void SetDuiLibOnly(bool duiLibOnly) { m_bDuiLibOnly = duiLibOnly; }
+
     // The error of the last Create, if it failed.
     const std::optional<SkinError>& GetError() const { return m_error; }
     IDialogBuilderCallback* GetCallback() const { return m_pCallback; }
@@ -63,7 +68,11 @@ private:
     struct Parser;
     IDialogBuilderCallback* m_pCallback = nullptr;
     std::optional<SkinError> m_error;
+    bool m_bDuiLibOnly = false;
 };
+
+// True for an attribute name that this toolkit reads and DuiLib does not.
+bool IsToolkitExtension(const std::wstring& attributeName);
 
 // Makes the control for a built-in element name, or null.
 CControlUI* CreateBuiltinControl(const std::wstring& className);
