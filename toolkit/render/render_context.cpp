@@ -74,6 +74,32 @@ void ConfigureTextContext(PangoContext* context)
     pango_context_set_round_glyph_positions(context, FALSE);
 }
 
+// How far to move a line whose glyphs start at `inkTop` and are `inkHeight`
+// tall so that none of them is cut by the box: the line box of a script
+// with marks above and below its letters (Thai) is taller than most labels
+// give it, while its glyphs fit. Moves by whole device pixels, so that the
+// glyphs are drawn exactly as they would be unmoved.
+double InkShift(double inkTop, double inkHeight, const RECT& box, double scale)
+{
+    // Hinting and anti-aliasing reach up to a device pixel past the outlines.
+    inkTop -= 1.0 / scale;
+    inkHeight += 2.0 / scale;
+    const double top = box.top;
+    const double bottom = box.bottom;
+    if (inkHeight > bottom - top)
+        return (top + bottom) / 2.0 - (inkTop + inkHeight / 2.0); // cut evenly
+    double shift = 0;
+    if (inkTop < top)
+        shift = top - inkTop;
+    else if (inkTop + inkHeight > bottom)
+        shift = bottom - (inkTop + inkHeight);
+    if (shift == 0)
+        return 0;
+    const double whole = std::copysign(std::ceil(std::fabs(shift) * scale), shift) / scale;
+    const bool wholeFits = inkTop + whole >= top && inkTop + inkHeight + whole <= bottom;
+    return wholeFits ? whole : shift;
+}
+
 } // namespace
 
 bool RectIsEmpty(const RECT& r)
@@ -195,8 +221,9 @@ void RenderContext::DrawText(const RECT& rect, const std::wstring& text, const H
     ConfigureTextContext(context);
     const int width = rect.right - rect.left;
     PangoLayout* layout = MakeLayout(context, text, font, style, width, m_scale);
+    PangoRectangle ink{};
     PangoRectangle logical{};
-    pango_layout_get_extents(layout, nullptr, &logical);
+    pango_layout_get_extents(layout, &ink, &logical);
     const double textHeight = static_cast<double>(logical.height) / PANGO_SCALE;
     const double boxHeight = rect.bottom - rect.top;
     double y = rect.top;
@@ -205,6 +232,9 @@ void RenderContext::DrawText(const RECT& rect, const std::wstring& text, const H
     } else if (style & DT_BOTTOM) {
         y += boxHeight - textHeight;
     }
+    if ((style & DT_SINGLELINE) != 0 || (style & DT_WORDBREAK) == 0)
+        y += InkShift(y + static_cast<double>(ink.y) / PANGO_SCALE,
+                      static_cast<double>(ink.height) / PANGO_SCALE, rect, m_scale);
     cairo_save(m_cr);
     cairo_rectangle(m_cr, rect.left, rect.top, width, boxHeight);
     cairo_clip(m_cr);
