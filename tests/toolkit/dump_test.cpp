@@ -8,8 +8,6 @@
 #include <fstream>
 #include <sstream>
 
-#include <json/reader.h>
-
 #include "harness/ui_harness.h"
 
 using namespace uitest;
@@ -37,10 +35,7 @@ constexpr const wchar_t* kRow =
 Json::Value Parse(const std::string& text)
 {
     Json::Value value;
-    Json::CharReaderBuilder builder;
-    std::string errors;
-    std::istringstream in(text);
-    EXPECT_TRUE(Json::parseFromStream(builder, in, &value, &errors)) << errors;
+    EXPECT_TRUE(ParseControlDump(text, value)) << text;
     return value;
 }
 
@@ -50,18 +45,6 @@ std::string ReadFile(const std::string& path)
     std::stringstream content;
     content << in.rdbuf();
     return content.str();
-}
-
-// The control named `name` anywhere below `node`, or null.
-const Json::Value* FindNode(const Json::Value& node, const std::string& name)
-{
-    if (node["name"].asString() == name)
-        return &node;
-    for (const auto& child : node["children"]) {
-        if (const Json::Value* found = FindNode(child, name))
-            return found;
-    }
-    return nullptr;
 }
 
 void ExpectBox(const Json::Value& node, int x, int y, int width, int height)
@@ -123,7 +106,7 @@ TEST_F(DumpTest, SmallSkinDumpsEveryControlInTreeOrder)
     EXPECT_EQ(pages["class"].asString(), "TabLayoutUI");
     EXPECT_EQ(pages["selected"].asInt(), 1);
     ExpectBox(pages, 110, 40, 180, 150);
-    const Json::Value* bar = FindNode(root, "bar");
+    const Json::Value* bar = FindInControlDump(root, "bar");
     ASSERT_NE(bar, nullptr);
     EXPECT_EQ((*bar)["class"].asString(), "ProgressUI");
     EXPECT_EQ((*bar)["value"].asInt(), 212);
@@ -171,8 +154,8 @@ TEST_F(DumpTest, VisibleIsTheOwnFlagAndShownLooksAtEveryParent)
     SkinWindow w(kSkin);
     ASSERT_TRUE(Open(w));
     Json::Value dump = Parse(ControlTreeText(w.pm()));
-    const Json::Value* page0 = FindNode(dump["controls"], "page0");
-    const Json::Value* hidden = FindNode(dump["controls"], "hidden_btn");
+    const Json::Value* page0 = FindInControlDump(dump["controls"], "page0");
+    const Json::Value* hidden = FindInControlDump(dump["controls"], "hidden_btn");
     ASSERT_TRUE(page0 && hidden);
     EXPECT_FALSE((*page0)["visible"].asBool());
     EXPECT_FALSE((*hidden)["visible"].asBool());
@@ -180,10 +163,10 @@ TEST_F(DumpTest, VisibleIsTheOwnFlagAndShownLooksAtEveryParent)
     Find<CTabLayoutUI>(w.pm(), L"pages")->SelectItem(0);
     w.pm().FindControl(L"hidden_btn")->SetVisible(true);
     dump = Parse(ControlTreeText(w.pm()));
-    hidden = FindNode(dump["controls"], "hidden_btn");
+    hidden = FindInControlDump(dump["controls"], "hidden_btn");
     EXPECT_TRUE((*hidden)["visible"].asBool());
     EXPECT_FALSE((*hidden)["shown"].asBool());
-    EXPECT_TRUE((*FindNode(dump["controls"], "page0"))["shown"].asBool());
+    EXPECT_TRUE((*FindInControlDump(dump["controls"], "page0"))["shown"].asBool());
     w.Close(0);
     Pump(10);
 }
@@ -195,7 +178,7 @@ TEST_F(DumpTest, ListRowsAreChildrenInRowOrderWithTheSelection)
     AddRows(w, 3);
     Find<CListUI>(w.pm(), L"list")->SelectItem(2);
     const Json::Value dump = Parse(ControlTreeText(w.pm()));
-    const Json::Value* list = FindNode(dump["controls"], "list");
+    const Json::Value* list = FindInControlDump(dump["controls"], "list");
     ASSERT_NE(list, nullptr);
     EXPECT_EQ((*list)["class"].asString(), "ListUI");
     EXPECT_EQ((*list)["selected"].asInt(), 2);
@@ -219,8 +202,8 @@ TEST_F(DumpTest, PositionsAreWindowPixelsAtTheScaleInUse)
     ASSERT_TRUE(opened);
     const Json::Value dump = Parse(ControlTreeText(w.pm()));
     ExpectBox(dump["controls"], 0, 0, 450, 300);
-    ExpectBox(*FindNode(dump["controls"], "title"), 15, 15, 420, 45);
-    ExpectBox(*FindNode(dump["controls"], "pages"), 165, 60, 270, 225);
+    ExpectBox(*FindInControlDump(dump["controls"], "title"), 15, 15, 420, 45);
+    ExpectBox(*FindInControlDump(dump["controls"], "pages"), 165, 60, 270, 225);
     w.Close(0);
     Pump(10);
 }
@@ -268,7 +251,7 @@ TEST_F(DumpTest, LiveFileIsWrittenAfterAFrameAndRewrittenWhenSomethingChanged)
             return dump["controls"]["children"][0]["text"].asString() == "Used 12 GB of 50 GB";
         },
         2000));
-    EXPECT_EQ((*FindNode(Parse(ReadFile(path))["controls"], "bar"))["value"].asInt(), 300);
+    EXPECT_EQ((*FindInControlDump(Parse(ReadFile(path))["controls"], "bar"))["value"].asInt(), 300);
     EXPECT_FALSE(std::filesystem::exists(path + ".part"));
     w.Close(0);
     Pump(10);

@@ -5,8 +5,6 @@
 #include <cairo.h>
 #include <gtest/gtest.h>
 
-#include <json/reader.h>
-
 #include <cstdint>
 #include <cstdlib>
 #include <filesystem>
@@ -14,6 +12,8 @@
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include "harness/ui_harness.h"
 
 namespace {
 
@@ -112,25 +112,33 @@ bool ControlPosition(const std::string& output, const std::string& name, int& x,
     return static_cast<bool>(in >> x >> y);
 }
 
-// The control named `name` in a control dump, or null.
-const Json::Value* FindInDump(const Json::Value& node, const std::string& name)
+#ifdef TOOLKIT_GALLERY_PATH
+// A shell script that starts the gallery in an SDL2 window with `options`,
+// waits until it is ready (and `readyFile` exists, if one is named), clicks
+// btn_primary with xdotool, runs `steps` and waits for the gallery to end.
+std::string GallerySession(const std::string& log, const std::string& options, const std::string& readyFile,
+                           const std::string& steps)
 {
-    if (node["name"].asString() == name)
-        return &node;
-    for (const auto& child : node["children"]) {
-        if (const Json::Value* found = FindInDump(child, name))
-            return found;
-    }
-    return nullptr;
+    const std::string fileReady = readyFile.empty() ? "" : " && [ -f '" + readyFile + "' ]";
+    return "set -u\n"
+           "SPACEMGM_TOOLKIT_BACKEND=sdl '" TOOLKIT_GALLERY_PATH "' --root '" SPACEMGM_SOURCE_DIR "' " +
+           options + " > '" + log +
+           "' 2>&1 &\n"
+           "pid=$!\n"
+           "for i in $(seq 1 100); do grep -q 'gallery: control btn_primary' '" +
+           log + "'" + fileReady +
+           " && break; sleep 0.1; done\n"
+           "sleep 0.5\n"
+           "set -- $(grep 'gallery: control btn_primary' '" +
+           log +
+           "' | head -1)\n"
+           "xdotool mousemove \"$4\" \"$5\" click 1\n" +
+           steps +
+           "for i in $(seq 1 50); do kill -0 $pid 2>/dev/null || break; sleep 0.1; done\n"
+           "kill $pid 2>/dev/null\n"
+           "wait $pid\n";
 }
-
-bool ParseDump(const std::string& text, Json::Value& dump)
-{
-    Json::CharReaderBuilder builder;
-    std::string errors;
-    std::istringstream in(text);
-    return Json::parseFromStream(builder, in, &dump, &errors) && dump.isObject();
-}
+#endif
 
 // Runs a shell script under a fresh Xvfb screen; its exit status.
 int RunUnderXvfb(const std::string& script)
@@ -158,27 +166,18 @@ TEST(GallerySmoke, ButtonClickedWithXdotoolInARealWindow)
     std::filesystem::remove(log);
     std::filesystem::remove(shot);
     std::filesystem::remove(dump);
-    {
-        std::ofstream out(script);
-        out << "set -u\n"
-            << "SPACEMGM_TOOLKIT_BACKEND=sdl '" << TOOLKIT_GALLERY_PATH << "' --root '" << SPACEMGM_SOURCE_DIR
-            << "' > '" << log << "' 2>&1 &\n"
-            << "pid=$!\n"
-            << "for i in $(seq 1 100); do grep -q 'gallery: control btn_primary' '" << log
-            << "' && break; sleep 0.1; done\n"
-            << "sleep 0.5\n"
-            << "set -- $(grep 'gallery: control btn_primary' '" << log << "' | head -1)\n"
-            << "xdotool mousemove \"$4\" \"$5\" click 1\n"
-            << "for i in $(seq 1 50); do grep -q 'gallery: click btn_primary' '" << log
-            << "' && break; sleep 0.1; done\n"
-            << "sleep 0.3\n"
-            << "xwd -root -silent > '" << dump << "'\n"
-            << "set -- $(grep 'gallery: control btn_close' '" << log << "' | head -1)\n"
-            << "xdotool mousemove \"$4\" \"$5\" click 1\n"
-            << "for i in $(seq 1 50); do kill -0 $pid 2>/dev/null || break; sleep 0.1; done\n"
-            << "kill $pid 2>/dev/null\n"
-            << "wait $pid\n";
-    }
+    std::ofstream(script) << GallerySession(
+        log, "", "",
+        "for i in $(seq 1 50); do grep -q 'gallery: click btn_primary' '" + log +
+            "' && break; sleep 0.1; done\n"
+            "sleep 0.3\n"
+            "xwd -root -silent > '" +
+            dump +
+            "'\n"
+            "set -- $(grep 'gallery: control btn_close' '" +
+            log +
+            "' | head -1)\n"
+            "xdotool mousemove \"$4\" \"$5\" click 1\n");
     const int status = RunUnderXvfb(script);
     const std::string output = ReadFile(log);
     EXPECT_EQ(status, 0) << output;
@@ -218,29 +217,20 @@ TEST(GallerySmoke, TabShowsTheFocusRingEscapeClosesAndTheDumpFollowsTheWindow)
     const std::string script = (dir / "smoke_keys.sh").string();
     for (const auto& file : {log, dump, afterClick, xwd})
         std::filesystem::remove(file);
-    {
-        std::ofstream out(script);
-        out << "set -u\n"
-            << "SPACEMGM_TOOLKIT_BACKEND=sdl '" << TOOLKIT_GALLERY_PATH << "' --root '" << SPACEMGM_SOURCE_DIR
-            << "' --dump-controls '" << dump << "' > '" << log << "' 2>&1 &\n"
-            << "pid=$!\n"
-            << "for i in $(seq 1 100); do grep -q 'gallery: control btn_primary' '" << log << "' && [ -f '"
-            << dump << "' ] && break; sleep 0.1; done\n"
-            << "sleep 0.5\n"
-            << "set -- $(grep 'gallery: control btn_primary' '" << log << "' | head -1)\n"
-            << "xdotool mousemove \"$4\" \"$5\" click 1\n"
-            // The click moves the progress bar from 64 to 76: wait for the dump to say so.
-            << "for i in $(seq 1 50); do grep -q '\"name\": \"progress\".*\"value\": 76' '" << dump
-            << "' && break; sleep 0.1; done\n"
-            << "cp '" << dump << "' '" << afterClick << "'\n"
-            << "xdotool key Tab\n"
-            << "sleep 0.5\n"
-            << "xwd -root -silent > '" << xwd << "'\n"
-            << "xdotool key Escape\n"
-            << "for i in $(seq 1 50); do kill -0 $pid 2>/dev/null || break; sleep 0.1; done\n"
-            << "kill $pid 2>/dev/null\n"
-            << "wait $pid\n";
-    }
+    // The click moves the progress bar from 64 to 76: the dump must say so.
+    std::ofstream(script) << GallerySession(
+        log, "--dump-controls '" + dump + "'", dump,
+        "for i in $(seq 1 50); do grep -q '\"name\": \"progress\".*\"value\": 76' '" + dump +
+            "' && break; sleep 0.1; done\n"
+            "cp '" +
+            dump + "' '" + afterClick +
+            "'\n"
+            "xdotool key Tab\n"
+            "sleep 0.5\n"
+            "xwd -root -silent > '" +
+            xwd +
+            "'\n"
+            "xdotool key Escape\n");
     const int status = RunUnderXvfb(script);
     const std::string output = ReadFile(log);
     EXPECT_EQ(status, 0) << output;
@@ -249,18 +239,18 @@ TEST(GallerySmoke, TabShowsTheFocusRingEscapeClosesAndTheDumpFollowsTheWindow)
     EXPECT_NE(output.find("gallery: closed 1"), std::string::npos) << output;
 
     Json::Value clicked;
-    ASSERT_TRUE(ParseDump(ReadFile(afterClick), clicked)) << "no dump at " << afterClick;
+    ASSERT_TRUE(uitest::ParseControlDump(ReadFile(afterClick), clicked)) << "no dump at " << afterClick;
     EXPECT_EQ(clicked["window"].asString(), "ToolkitGallery");
-    const Json::Value* progress = FindInDump(clicked["controls"], "progress");
+    const Json::Value* progress = uitest::FindInControlDump(clicked["controls"], "progress");
     ASSERT_NE(progress, nullptr);
     EXPECT_EQ((*progress)["value"].asInt(), 76);
-    const Json::Value* statusLabel = FindInDump(clicked["controls"], "status");
+    const Json::Value* statusLabel = uitest::FindInControlDump(clicked["controls"], "status");
     ASSERT_NE(statusLabel, nullptr);
     EXPECT_EQ((*statusLabel)["text"].asString(), "Clicked: Primary");
 
     // After Tab the focus ring, in the default focus colour, is on the next
     // button: on its edge, not inside it.
-    const Json::Value* secondary = FindInDump(clicked["controls"], "btn_secondary");
+    const Json::Value* secondary = uitest::FindInControlDump(clicked["controls"], "btn_secondary");
     ASSERT_NE(secondary, nullptr);
     long left = 0;
     long top = 0;

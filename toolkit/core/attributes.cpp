@@ -2,6 +2,8 @@
 
 #include <cwchar>
 #include <cwctype>
+#include <initializer_list>
+#include <utility>
 #include <vector>
 
 namespace DuiLib {
@@ -70,6 +72,18 @@ std::vector<long> ReadNumbers(const wchar_t* name, const wchar_t* value, std::si
     return numbers;
 }
 
+// The value of the keyword `value` is, from `words`.
+UINT ParseKeyword(const wchar_t* name, const wchar_t* value,
+                  std::initializer_list<std::pair<const wchar_t*, UINT>> words)
+{
+    const std::wstring text = value ? value : L"";
+    for (const auto& word : words) {
+        if (text == word.first)
+            return word.second;
+    }
+    Bad(name, value);
+}
+
 } // namespace
 
 DWORD ParseColor(const wchar_t* name, const wchar_t* value)
@@ -134,26 +148,14 @@ RECT ParseRect(const wchar_t* name, const wchar_t* value)
 
 UINT ParseHorizontalAlign(const wchar_t* name, const wchar_t* value)
 {
-    const std::wstring v = value ? value : L"";
-    if (v == L"left")
-        return DT_LEFT;
-    if (v == L"center")
-        return DT_CENTER;
-    if (v == L"right")
-        return DT_RIGHT;
-    Bad(name, value);
+    return ParseKeyword(name, value, {{L"left", DT_LEFT}, {L"center", DT_CENTER}, {L"right", DT_RIGHT}});
 }
 
 UINT ParseVerticalAlign(const wchar_t* name, const wchar_t* value)
 {
-    const std::wstring v = value ? value : L"";
-    if (v == L"top")
-        return DT_TOP;
-    if (v == L"vcenter" || v == L"center")
-        return DT_VCENTER;
-    if (v == L"bottom")
-        return DT_BOTTOM;
-    Bad(name, value);
+    return ParseKeyword(
+        name, value,
+        {{L"top", DT_TOP}, {L"vcenter", DT_VCENTER}, {L"center", DT_VCENTER}, {L"bottom", DT_BOTTOM}});
 }
 
 std::string Narrow(const std::wstring& text)

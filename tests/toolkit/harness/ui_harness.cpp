@@ -4,7 +4,10 @@
 
 #include <chrono>
 #include <filesystem>
+#include <sstream>
 #include <thread>
+
+#include <json/reader.h>
 
 #include "toolkit/window/native_surface.h"
 
@@ -220,6 +223,25 @@ int Snapshot::CountDark(const RECT& rect, int maxLuma) const
         }
     }
     return count;
+}
+
+bool ParseControlDump(const std::string& text, Json::Value& dump)
+{
+    Json::CharReaderBuilder builder;
+    std::string errors;
+    std::istringstream in(text);
+    return Json::parseFromStream(builder, in, &dump, &errors) && dump.isObject();
+}
+
+const Json::Value* FindInControlDump(const Json::Value& node, const std::string& name)
+{
+    if (node["name"].asString() == name)
+        return &node;
+    for (const auto& child : node["children"]) {
+        if (const Json::Value* found = FindInControlDump(child, name))
+            return found;
+    }
+    return nullptr;
 }
 
 std::string OutputPath(const std::string& fileName)

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include <json/value.h>
+
 #include "toolkit/duilib.h"
 
 namespace uitest {
@@ -105,6 +107,12 @@ public:
 private:
     struct _cairo_surface* m_surface;
 };
+
+// Reads a control dump (docs/control-dump.md); false for text that is not
+// a JSON object.
+bool ParseControlDump(const std::string& text, Json::Value& dump);
+// The control named `name` in a dump's tree (from `node` down), or null.
+const Json::Value* FindInControlDump(const Json::Value& node, const std::string& name);
 
 // Where tests write their PNGs (created if needed).
 std::string OutputPath(const std::string& fileName);
