@@ -113,16 +113,17 @@ bool ControlPosition(const std::string& output, const std::string& name, int& x,
 }
 
 #ifdef TOOLKIT_GALLERY_PATH
-// A shell script that starts the gallery in an SDL2 window with `options`,
-// waits until it is ready (and `readyFile` exists, if one is named), clicks
-// btn_primary with xdotool, runs `steps` and waits for the gallery to end.
-std::string GallerySession(const std::string& log, const std::string& options, const std::string& readyFile,
-                           const std::string& steps)
+// A shell script that starts the gallery in an SDL2 window keeping its
+// control dump in `dump`, waits until it is ready and its first frame is
+// painted (the dump exists), clicks btn_primary with xdotool, runs `steps`
+// and waits for the gallery to end.
+std::string GallerySession(const std::string& log, const std::string& dump, const std::string& steps)
 {
-    const std::string fileReady = readyFile.empty() ? "" : " && [ -f '" + readyFile + "' ]";
+    const std::string fileReady = " && [ -f '" + dump + "' ]";
     return "set -u\n"
-           "SPACEMGM_TOOLKIT_BACKEND=sdl '" TOOLKIT_GALLERY_PATH "' --root '" SPACEMGM_SOURCE_DIR "' " +
-           options + " > '" + log +
+           "SPACEMGM_TOOLKIT_BACKEND=sdl '" TOOLKIT_GALLERY_PATH "' --root '" SPACEMGM_SOURCE_DIR
+           "' --dump-controls '" +
+           dump + "' > '" + log +
            "' 2>&1 &\n"
            "pid=$!\n"
            "for i in $(seq 1 100); do grep -q 'gallery: control btn_primary' '" +
@@ -162,12 +163,12 @@ TEST(GallerySmoke, ButtonClickedWithXdotoolInARealWindow)
     const std::string log = (dir / "smoke_gallery.log").string();
     const std::string shot = (dir / "smoke_gallery.png").string();
     const std::string dump = (dir / "smoke_gallery.xwd").string();
+    const std::string controls = (dir / "smoke_gallery.json").string();
     const std::string script = (dir / "smoke_gallery.sh").string();
-    std::filesystem::remove(log);
-    std::filesystem::remove(shot);
-    std::filesystem::remove(dump);
+    for (const auto& file : {log, shot, dump, controls})
+        std::filesystem::remove(file);
     std::ofstream(script) << GallerySession(
-        log, "", "",
+        log, controls,
         "for i in $(seq 1 50); do grep -q 'gallery: click btn_primary' '" + log +
             "' && break; sleep 0.1; done\n"
             "sleep 0.3\n"
@@ -219,7 +220,7 @@ TEST(GallerySmoke, TabShowsTheFocusRingEscapeClosesAndTheDumpFollowsTheWindow)
         std::filesystem::remove(file);
     // The click moves the progress bar from 64 to 76: the dump must say so.
     std::ofstream(script) << GallerySession(
-        log, "--dump-controls '" + dump + "'", dump,
+        log, dump,
         "for i in $(seq 1 50); do grep -q '\"name\": \"progress\".*\"value\": 76' '" + dump +
             "' && break; sleep 0.1; done\n"
             "cp '" +
