@@ -8,7 +8,10 @@
 // Everything here is in the global namespace under the Win32 names, because
 // that is how the module's code spells them.
 
+#include <atomic>
+#include <cstddef>
 #include <cstdint>
+#include <mutex>
 
 using BOOL = int;
 using BYTE = std::uint8_t;
@@ -21,6 +24,9 @@ using WPARAM = std::uintptr_t;
 using LPARAM = std::intptr_t;
 using LRESULT = std::intptr_t;
 using HANDLE = void*;
+using LPVOID = void*;
+using LPDWORD = DWORD*;
+using LPLONG = LONG*;
 
 // A window handle is opaque: a distinct pointer type so that it cannot be
 // mixed up with a HANDLE, never dereferenced. Handles are not reused, so a
@@ -116,6 +122,21 @@ constexpr DWORD WAIT_OBJECT_0 = 0x00000000u;
 constexpr DWORD WAIT_ABANDONED = 0x00000080u;
 constexpr DWORD WAIT_TIMEOUT = 0x00000102u;
 constexpr DWORD WAIT_FAILED = 0xFFFFFFFFu;
+constexpr DWORD MAXIMUM_WAIT_OBJECTS = 64;
+
+// Threads.
+constexpr DWORD STILL_ACTIVE = 0x00000103u;
+constexpr DWORD CREATE_SUSPENDED = 0x00000004u;
+constexpr DWORD STACK_SIZE_PARAM_IS_A_RESERVATION = 0x00010000u;
+
+// The network probe's flags.
+constexpr DWORD NETWORK_ALIVE_LAN = 0x00000001u;
+constexpr DWORD NETWORK_ALIVE_WAN = 0x00000002u;
+constexpr DWORD INTERNET_CONNECTION_MODEM = 0x00000001u;
+constexpr DWORD INTERNET_CONNECTION_LAN = 0x00000002u;
+constexpr DWORD INTERNET_CONNECTION_PROXY = 0x00000004u;
+constexpr DWORD INTERNET_CONNECTION_OFFLINE = 0x00000020u;
+constexpr DWORD INTERNET_CONNECTION_CONFIGURED = 0x00000040u;
 
 // Packing helpers. Functions rather than macros, with the macros' results:
 // MAKELPARAM goes through a 32-bit value, so a high word with its top bit set
@@ -193,3 +214,82 @@ BOOL CloseHandle(HANDLE handle);
 DWORD GetTickCount();
 void Sleep(DWORD milliseconds);
 DWORD GetCurrentThreadId();
+
+// Kernel objects: events, semaphores and threads share one handle space, and
+// every wait below works on any of them. An event is signalled while set, a
+// semaphore while its count is above 0 (a wait takes one), a thread once it
+// has ended (for good).
+
+// Semaphores. Fails (null) unless 0 <= initialCount <= maximumCount and
+// maximumCount > 0. The attributes and the name are accepted and ignored.
+HANDLE CreateSemaphoreW(void* securityAttributes, LONG initialCount, LONG maximumCount, const wchar_t* name);
+// Adds releaseCount; FALSE, leaving the count as it was, when that would pass
+// the maximum or releaseCount is not positive. previousCount may be null.
+BOOL ReleaseSemaphore(HANDLE semaphore, LONG releaseCount, LPLONG previousCount);
+
+// Waits for any (waitAll FALSE) or all (TRUE) of `count` handles, 1 to
+// MAXIMUM_WAIT_OBJECTS of them, none twice. Wait-any returns
+// WAIT_OBJECT_0 + i for the lowest ready index i and takes only that object's
+// signal; wait-all returns WAIT_OBJECT_0 once all are ready at one moment and
+// takes all their signals together. WAIT_TIMEOUT and WAIT_FAILED as for
+// WaitForSingleObject.
+DWORD WaitForMultipleObjects(DWORD count, const HANDLE* handles, BOOL waitAll, DWORD timeoutMs);
+
+// Threads. The handle is signalled when the thread ends; closing it does not
+// stop the thread. dwStackSize 0 means the default stack; CREATE_SUSPENDED is
+// not supported and gives null. The thread id, if asked for, is the same
+// number GetCurrentThreadId returns on that thread.
+using LPTHREAD_START_ROUTINE = DWORD (*)(LPVOID parameter);
+HANDLE CreateThread(void* threadAttributes, std::size_t stackSize, LPTHREAD_START_ROUTINE startAddress,
+                    LPVOID parameter, DWORD creationFlags, LPDWORD threadId);
+// The C runtime's way to the same thing: 0 on failure, else a HANDLE.
+std::uintptr_t _beginthreadex(void* security, unsigned stackSize, unsigned (*startAddress)(void*),
+                              void* argList, unsigned initFlag, unsigned* threadAddress);
+// STILL_ACTIVE while the thread runs, then what its function returned or the
+// code given to TerminateThread.
+BOOL GetExitCodeThread(HANDLE thread, LPDWORD exitCode);
+
+// Ends a thread made by CreateThread or _beginthreadex. Linux cannot stop a
+// thread at an arbitrary instruction safely, so the end comes at the next
+// point where the thread is inside this surface:
+//  - a thread waiting in WaitForSingleObject, WaitForMultipleObjects or Sleep
+//    leaves that wait at once and ends;
+//  - a thread running its own code is marked, and ends when it next enters
+//    one of those calls (a call made on itself ends it there and then).
+// The thread ends by unwinding its stack up to the entry the surface gave it,
+// so destructors run and nothing it owns leaks; a lock it took with
+// EnterCriticalSection and did not leave stays taken, as on Windows. Code
+// that catches every exception (catch (...)) without rethrowing delays the
+// end to the next wait; a wait inside a noexcept function would end the
+// process instead, so threads that may be terminated must not wait there.
+// FALSE for a handle that is no thread, or a thread that has ended already.
+BOOL TerminateThread(HANDLE thread, DWORD exitCode);
+
+// Critical sections: recursive locks owned by a thread, as on Windows. A
+// thread that enters n times leaves n times; a leave by another thread is
+// ignored. The lock is part of the structure from its construction, so
+// InitializeCriticalSection and DeleteCriticalSection only bracket the span
+// in which Win32 allows its use; a second initialisation or a deletion while
+// another thread is still inside (undefined on Windows) is harmless here.
+// Entering is not a point where a terminated thread ends.
+struct CRITICAL_SECTION
+{
+    std::mutex lock;
+    std::atomic<DWORD> owningThread{0};
+    LONG recursionCount = 0; // touched only by the owning thread
+};
+void InitializeCriticalSection(CRITICAL_SECTION* section);
+void EnterCriticalSection(CRITICAL_SECTION* section);
+void LeaveCriticalSection(CRITICAL_SECTION* section);
+void DeleteCriticalSection(CRITICAL_SECTION* section);
+
+// The network probe. IsNetworkAlive: TRUE when the machine is on a network
+// (flags: NETWORK_ALIVE_LAN). InternetGetConnectedState: TRUE when it has a
+// way to the internet (flags: INTERNET_CONNECTION_LAN |
+// INTERNET_CONNECTION_CONFIGURED; INTERNET_CONNECTION_OFFLINE when FALSE);
+// `reserved` is 0, as Win32 asks, and is not looked at. A null `flags` is
+// allowed and left alone. On Linux the host answers both (its configuration's
+// "network.mode"); with no host attached both fail. Either call reads state
+// that is kept current elsewhere, so it is cheap enough to poll.
+BOOL IsNetworkAlive(LPDWORD flags);
+BOOL InternetGetConnectedState(LPDWORD flags, DWORD reserved);

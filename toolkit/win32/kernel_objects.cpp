@@ -1,172 +1,82 @@
-// Events, waits, ticks and thread ids of the Win32 surface.
+// The handle table, the dispatcher mutex and the waiter lists shared by
+// every kernel object.
 
-#include <sys/syscall.h>
-#include <unistd.h>
+#include "toolkit/win32/kernel_objects.h"
 
-#include <chrono>
-#include <condition_variable>
-#include <memory>
-#include <mutex>
-#include <thread>
-#include <unordered_map>
+#include <algorithm>
 
-#include "platform/win32.h"
 #include "toolkit/win32/handle_values.h"
 
 namespace toolkit_win32 {
-namespace {
 
-class EventObject
+std::mutex& DispatcherMutex()
 {
-public:
-    EventObject(bool manualReset, bool signalled) : manualReset_(manualReset), signalled_(signalled) {}
+    // Never destroyed: detached threads may still wait or signal while the
+    // process exits.
+    static std::mutex* mutex = new std::mutex;
+    return *mutex;
+}
 
-    void Set()
-    {
-        {
-            std::lock_guard<std::mutex> lock(mutex_);
-            signalled_ = true;
-        }
-        // An auto-reset event releases one waiter per signal; a manual one
-        // releases them all until it is reset.
-        if (manualReset_) {
-            changed_.notify_all();
-        } else {
-            changed_.notify_one();
-        }
-    }
-
-    void Reset()
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        signalled_ = false;
-    }
-
-    DWORD Wait(DWORD timeoutMs)
-    {
-        std::unique_lock<std::mutex> lock(mutex_);
-        auto isSignalled = [this] { return signalled_; };
-        if (timeoutMs == INFINITE) {
-            changed_.wait(lock, isSignalled);
-        } else if (!changed_.wait_for(lock, std::chrono::milliseconds(timeoutMs), isSignalled)) {
-            return WAIT_TIMEOUT;
-        }
-        if (!manualReset_) {
-            signalled_ = false;
-        }
-        return WAIT_OBJECT_0;
-    }
-
-private:
-    const bool manualReset_;
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    bool signalled_;
-};
-
-// Open handles. A wait holds its own reference, so closing a handle while
-// another thread waits on it does not pull the object from under that wait.
-class HandleTable
+void KernelObject::AddWaiterLocked(ThreadWaitState* waiter)
 {
-public:
-    static HandleTable& Instance()
-    {
-        // Never destroyed: detached threads may still close handles while the
-        // process exits.
-        static HandleTable* table = new HandleTable;
-        return *table;
-    }
+    waiters_.push_back(waiter);
+}
 
-    HANDLE Add(std::shared_ptr<EventObject> object)
-    {
-        HANDLE handle = reinterpret_cast<HANDLE>(NextHandleValue());
-        std::lock_guard<std::mutex> lock(mutex_);
-        objects_.emplace(handle, std::move(object));
-        return handle;
-    }
+void KernelObject::RemoveWaiterLocked(ThreadWaitState* waiter)
+{
+    waiters_.erase(std::remove(waiters_.begin(), waiters_.end(), waiter), waiters_.end());
+}
 
-    std::shared_ptr<EventObject> Find(HANDLE handle) const
+void KernelObject::WakeWaitersLocked()
+{
+    // Every waiter rechecks under the mutex; the ones that lose the race for
+    // an auto-reset signal or a count go back to sleep.
+    for (ThreadWaitState* waiter : waiters_) {
+        waiter->wake.notify_one();
+    }
+}
+
+HandleTable& HandleTable::Instance()
+{
+    // Never destroyed, for the same reason as the dispatcher mutex.
+    static HandleTable* table = new HandleTable;
+    return *table;
+}
+
+HANDLE HandleTable::Add(std::shared_ptr<KernelObject> object)
+{
+    HANDLE handle = reinterpret_cast<HANDLE>(NextHandleValue());
+    std::lock_guard<std::mutex> lock(mutex_);
+    objects_.emplace(handle, std::move(object));
+    return handle;
+}
+
+std::shared_ptr<KernelObject> HandleTable::Find(HANDLE handle) const
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    auto found = objects_.find(handle);
+    return found == objects_.end() ? nullptr : found->second;
+}
+
+bool HandleTable::Remove(HANDLE handle)
+{
+    std::shared_ptr<KernelObject> removed;
     {
         std::lock_guard<std::mutex> lock(mutex_);
         auto found = objects_.find(handle);
-        return found == objects_.end() ? nullptr : found->second;
+        if (found == objects_.end()) {
+            return false;
+        }
+        removed = std::move(found->second);
+        objects_.erase(found);
     }
+    // `removed` may be the last reference; it goes outside the table's lock.
+    return true;
+}
 
-    bool Remove(HANDLE handle)
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        return objects_.erase(handle) > 0;
-    }
-
-private:
-    mutable std::mutex mutex_;
-    std::unordered_map<HANDLE, std::shared_ptr<EventObject>> objects_;
-};
-
-} // namespace
 } // namespace toolkit_win32
-
-using toolkit_win32::EventObject;
-using toolkit_win32::HandleTable;
-
-HANDLE CreateEventW(void* /*securityAttributes*/, BOOL manualReset, BOOL initialState,
-                    const wchar_t* /*name*/)
-{
-    return HandleTable::Instance().Add(
-        std::make_shared<EventObject>(manualReset != FALSE, initialState != FALSE));
-}
-
-BOOL SetEvent(HANDLE event)
-{
-    auto object = HandleTable::Instance().Find(event);
-    if (!object) {
-        return FALSE;
-    }
-    object->Set();
-    return TRUE;
-}
-
-BOOL ResetEvent(HANDLE event)
-{
-    auto object = HandleTable::Instance().Find(event);
-    if (!object) {
-        return FALSE;
-    }
-    object->Reset();
-    return TRUE;
-}
-
-DWORD WaitForSingleObject(HANDLE handle, DWORD timeoutMs)
-{
-    auto object = HandleTable::Instance().Find(handle);
-    if (!object) {
-        return WAIT_FAILED;
-    }
-    return object->Wait(timeoutMs);
-}
 
 BOOL CloseHandle(HANDLE handle)
 {
-    return HandleTable::Instance().Remove(handle) ? TRUE : FALSE;
-}
-
-DWORD GetTickCount()
-{
-    // steady_clock is CLOCK_MONOTONIC here: time since boot, like the Windows
-    // tick count, truncated to 32 bits so that it wraps the same way.
-    const auto sinceEpoch = std::chrono::steady_clock::now().time_since_epoch();
-    return static_cast<DWORD>(std::chrono::duration_cast<std::chrono::milliseconds>(sinceEpoch).count());
-}
-
-void Sleep(DWORD milliseconds)
-{
-    std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
-}
-
-DWORD GetCurrentThreadId()
-{
-    // The kernel's thread id: unique among live threads and the same number
-    // that debuggers and logs show.
-    thread_local const DWORD id = static_cast<DWORD>(::syscall(SYS_gettid));
-    return id;
+    return toolkit_win32::HandleTable::Instance().Remove(handle) ? TRUE : FALSE;
 }

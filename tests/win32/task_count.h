@@ -1,0 +1,39 @@
+#pragma once
+
+// Counts the calling process's threads the way the kernel sees them, so that
+// tests can tell whether a thread really went away.
+
+#include <dirent.h>
+
+#include <chrono>
+#include <thread>
+
+inline int CountProcessThreads()
+{
+    DIR* tasks = opendir("/proc/self/task");
+    if (tasks == nullptr) {
+        return -1;
+    }
+    int count = 0;
+    while (const dirent* entry = readdir(tasks)) {
+        if (entry->d_name[0] != '.') {
+            ++count;
+        }
+    }
+    closedir(tasks);
+    return count;
+}
+
+// A thread that has ended still shows until the kernel has reaped it, a
+// moment after its last instruction; waits up to `limit` for the count to
+// come down to `expected` and returns the last count seen.
+inline int WaitForThreadCount(int expected, std::chrono::milliseconds limit = std::chrono::seconds(2))
+{
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    int count = CountProcessThreads();
+    while (count > expected && std::chrono::steady_clock::now() < deadline) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        count = CountProcessThreads();
+    }
+    return count;
+}
