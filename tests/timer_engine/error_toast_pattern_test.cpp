@@ -55,7 +55,7 @@ private:
 
 TEST(TimerEngineErrorToastUse, ClosesItsWindowAfterThreeSecondsAndStopsTheEngine)
 {
-    const int before = CountProcessThreads();
+    const int before = SettledThreadCount();
     ToastWindow toast;
     std::promise<DWORD> opened;
     auto openedAt = opened.get_future();

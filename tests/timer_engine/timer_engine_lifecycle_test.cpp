@@ -8,7 +8,7 @@ using std::chrono::milliseconds;
 
 TEST(TimerEngineInstance, IsOneObjectAndMakingItStartsNothing)
 {
-    const int before = CountProcessThreads();
+    const int before = SettledThreadCount();
     TimerEngine* first = TimerEngine::GetInstance();
     EXPECT_EQ(TimerEngine::GetInstance(), first);
     EXPECT_EQ(CountProcessThreads(), before);
@@ -17,7 +17,7 @@ TEST(TimerEngineInstance, IsOneObjectAndMakingItStartsNothing)
 
 TEST_F(TimerEngineTest, StartRunsTwoThreads)
 {
-    const int before = CountProcessThreads();
+    const int before = SettledThreadCount();
     StartEngine();
     EXPECT_EQ(CountProcessThreads(), before + 2);
     const auto threads = TimerEngineTestPeer::Threads(*engine);
@@ -27,7 +27,7 @@ TEST_F(TimerEngineTest, StartRunsTwoThreads)
 
 TEST_F(TimerEngineTest, StopWithNoTimerPendingReturnsAfterAboutOneSecondAndLeavesNoThreads)
 {
-    const int before = CountProcessThreads();
+    const int before = SettledThreadCount();
     StartEngine();
     const auto start = Clock::now();
     StopEngine();
@@ -57,7 +57,7 @@ TEST_F(TimerEngineTest, StopEndsAThreadStuckInACallbackAtItsNextWait)
         std::atomic<bool> entered{false};
         std::atomic<bool> returned{false};
     } stuck;
-    const int before = CountProcessThreads();
+    const int before = SettledThreadCount();
     StartEngine();
     engine->AddTimer(&stuck, 1, 0, 1, 0);
     while (!stuck.entered) {
@@ -91,7 +91,7 @@ TEST_F(TimerEngineTest, StartsAgainAfterStopAsEachErrorToastDoes)
 
 TEST_F(TimerEngineTest, StopCalledFiftyTimesInARowAfterStartLeavesNoThreadBehind)
 {
-    const int before = CountProcessThreads();
+    const int before = SettledThreadCount();
     for (int round = 0; round < 50; ++round) {
         StartEngine();
         StopEngine();
@@ -102,7 +102,7 @@ TEST_F(TimerEngineTest, StopCalledFiftyTimesInARowAfterStartLeavesNoThreadBehind
 TEST_F(TimerEngineTest, SecondStartWithoutStopLeavesTheFirstThreadsRunning)
 {
     RecordingCallback callback(log);
-    const int before = CountProcessThreads();
+    const int before = SettledThreadCount();
     StartEngine();
     const auto first = TimerEngineTestPeer::Threads(*engine);
     const HANDLE firstStop = TimerEngineTestPeer::StopEvent(*engine);

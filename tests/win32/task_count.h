@@ -24,6 +24,22 @@ inline int CountProcessThreads()
     return count;
 }
 
+// The count once threads that are on their way out (ended by an earlier
+// test, say) have gone: the first of two counts 10 ms apart that agree.
+inline int SettledThreadCount()
+{
+    int last = CountProcessThreads();
+    for (int attempt = 0; attempt < 200; ++attempt) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        const int now = CountProcessThreads();
+        if (now == last) {
+            return now;
+        }
+        last = now;
+    }
+    return last;
+}
+
 // A thread that has ended still shows until the kernel has reaped it, a
 // moment after its last instruction; waits up to `limit` for the count to
 // come down to `expected` and returns the last count seen.

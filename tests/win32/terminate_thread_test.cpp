@@ -76,7 +76,7 @@ void WaitUntil(const std::atomic<bool>& flag)
 
 TEST(TerminateThread, ThreadWaitingInWaitForMultipleObjectsEndsWithin50ms)
 {
-    const int before = CountProcessThreads();
+    const int before = SettledThreadCount();
     Victim v;
     HANDLE thread = CreateThread(nullptr, 0, WaitOnStopAndFire, &v, 0, nullptr);
     ASSERT_NE(thread, nullptr);
