@@ -266,6 +266,9 @@ HostConfig LoadHostConfigFile(const std::string& path)
                          "must be one of \"system\", \"online\", \"offline\", \"file\"");
         }
         network.String("file", config.networkFile);
+        if (mode == "file" && config.networkFile.empty()) {
+            network.Fail(network.KeyOf("file"), "must name a file when \"network.mode\" is \"file\"");
+        }
     });
     top.String("dataDir", dataDir);
     top.String("logDir", logDir);

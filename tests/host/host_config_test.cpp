@@ -225,6 +225,14 @@ TEST(HostConfig, UnknownNetworkModeIsRefused)
                   ": \"network.mode\" must be one of \"system\", \"online\", \"offline\", \"file\"");
 }
 
+TEST(HostConfig, FileNetworkModeWithoutAFileIsRefused)
+{
+    TempFolder folder;
+    const auto file = folder.Write("nofile.json", R"({"network": {"mode": "file"}})");
+    EXPECT_EQ(ErrorOf(file.string()),
+              file.string() + ": \"network.file\" must name a file when \"network.mode\" is \"file\"");
+}
+
 TEST(HostConfigPath, CommandLineWinsOverEverything)
 {
     EnvScope env("SPACEMGM_CONFIG", "/from/env.json");
