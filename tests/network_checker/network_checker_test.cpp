@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <stdexcept>
 
 #include "host/logger_sink.h"
+#include "platform/win32.h"
 #include "tests/network_checker/scripted_probe.h"
 
 namespace {
@@ -192,4 +194,41 @@ TEST(NetworkCheckerProbe, NoProbeInstalledReadsAsOffline)
 {
     ProbeScope none(nullptr);
     EXPECT_FALSE(NetworkChecker::ProbeNetwork());
+}
+
+namespace {
+
+struct WatcherStart
+{
+    std::function<void()> onRestored;
+    std::function<void()> onLost;
+};
+
+unsigned RunWatcher(void* raw)
+{
+    std::unique_ptr<WatcherStart> start(static_cast<WatcherStart*>(raw));
+    NetworkChecker::CheckNetwork(std::move(start->onRestored), std::move(start->onLost));
+    return 0;
+}
+
+} // namespace
+
+TEST_F(NetworkCheckerTest, RunsOnAThreadFromBeginThreadExThatEndsWhenStopped)
+{
+    NetworkChecker::networkAlive = true;
+    const int probesBefore = probe->onNetworkCalls;
+    auto start = std::make_unique<WatcherStart>(WatcherStart{[&] { ++restored; }, [&] { ++lost; }});
+    const auto thread =
+        reinterpret_cast<HANDLE>(_beginthreadex(nullptr, 0, RunWatcher, start.get(), 0, nullptr));
+    if (thread != nullptr) {
+        start.release(); // the thread's own now
+    }
+    ASSERT_NE(thread, nullptr);
+    ASSERT_TRUE(WaitFor(probe->onNetworkCalls, probesBefore + 1));
+    probe->onNetwork = false;
+    ASSERT_TRUE(WaitFor(lost, 1));
+    NetworkChecker::stopChecking = true;
+    EXPECT_EQ(WaitForSingleObject(thread, 1000), WAIT_OBJECT_0);
+    CloseHandle(thread);
+    EXPECT_FALSE(NetworkChecker::networkAlive.load());
 }
