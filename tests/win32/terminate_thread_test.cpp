@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <memory>
@@ -72,27 +73,72 @@ void WaitUntil(const std::atomic<bool>& flag)
     }
 }
 
+// Each round starts a thread with `body`, lets it settle in its wait,
+// terminates it and measures how long until its handle is signalled. On an
+// idle machine that is well under a millisecond; on a loaded one a round
+// may wait for a processor now and then, so the tests below ask 4 rounds of
+// 5 to be within 50 ms rather than every one.
+template <typename Check>
+std::vector<Clock::duration> TerminationTimes(LPTHREAD_START_ROUTINE body, Check check)
+{
+    std::vector<Clock::duration> times;
+    for (int round = 0; round < 5; ++round) {
+        Victim v;
+        HANDLE thread = CreateThread(nullptr, 0, body, &v, 0, nullptr);
+        EXPECT_NE(thread, nullptr);
+        WaitUntil(v.waiting);
+        Sleep(20); // well inside the wait
+        const auto start = Clock::now();
+        EXPECT_TRUE(TerminateThread(thread, 42));
+        EXPECT_EQ(WaitForSingleObject(thread, 5000), WAIT_OBJECT_0);
+        times.push_back(Clock::now() - start);
+        check(v, thread);
+        CloseHandle(thread);
+    }
+    return times;
+}
+
+long WithinMs(const std::vector<Clock::duration>& times, int limitMs)
+{
+    return std::count_if(times.begin(), times.end(),
+                         [limitMs](Clock::duration t) { return t <= std::chrono::milliseconds(limitMs); });
+}
+
+DWORD SleepForEver(LPVOID parameter)
+{
+    auto& v = *static_cast<Victim*>(parameter);
+    SetsFlagWhenDestroyed unwound{v.stackUnwound};
+    v.waiting = true;
+    Sleep(INFINITE);
+    v.passedTheWait = true;
+    return 0;
+}
+
+void ExpectEndedInsideTheWait(const Victim& v, HANDLE thread)
+{
+    EXPECT_FALSE(v.passedTheWait.load()) << "the thread ended inside the wait";
+    EXPECT_TRUE(v.stackUnwound.load());
+    DWORD code = 0;
+    EXPECT_TRUE(GetExitCodeThread(thread, &code));
+    EXPECT_EQ(code, 42u);
+}
+
 } // namespace
 
 TEST(TerminateThread, ThreadWaitingInWaitForMultipleObjectsEndsWithin50ms)
 {
     const int before = SettledThreadCount();
-    Victim v;
-    HANDLE thread = CreateThread(nullptr, 0, WaitOnStopAndFire, &v, 0, nullptr);
-    ASSERT_NE(thread, nullptr);
-    WaitUntil(v.waiting);
-    Sleep(20); // well inside the wait
-    const auto start = Clock::now();
-    ASSERT_TRUE(TerminateThread(thread, 42));
-    EXPECT_EQ(WaitForSingleObject(thread, 2000), WAIT_OBJECT_0);
-    EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(50));
-    EXPECT_FALSE(v.passedTheWait.load()) << "the thread ended inside the wait";
-    EXPECT_TRUE(v.stackUnwound.load());
-    DWORD code = 0;
-    ASSERT_TRUE(GetExitCodeThread(thread, &code));
-    EXPECT_EQ(code, 42u);
-    CloseHandle(thread);
+    const auto times = TerminationTimes(WaitOnStopAndFire, ExpectEndedInsideTheWait);
+    EXPECT_GE(WithinMs(times, 50), 4);
+    EXPECT_EQ(WithinMs(times, 1000), 5);
     EXPECT_LE(WaitForThreadCount(before), before);
+}
+
+TEST(TerminateThread, ThreadSleepingEndsWithin50ms)
+{
+    const auto times = TerminationTimes(SleepForEver, ExpectEndedInsideTheWait);
+    EXPECT_GE(WithinMs(times, 50), 4);
+    EXPECT_EQ(WithinMs(times, 1000), 5);
 }
 
 TEST(TerminateThread, TerminatedThreadHoldsNoLock)
@@ -127,23 +173,6 @@ TEST(TerminateThread, ThreadRunningItsOwnCodeEndsAtItsNextWait)
     EXPECT_FALSE(v.passedTheWait.load());
     GetExitCodeThread(thread, &code);
     EXPECT_EQ(code, 5u);
-    CloseHandle(thread);
-}
-
-TEST(TerminateThread, ThreadSleepingEndsAtOnce)
-{
-    HANDLE thread = CreateThread(
-        nullptr, 0,
-        [](LPVOID) -> DWORD {
-            Sleep(INFINITE);
-            return 0;
-        },
-        nullptr, 0, nullptr);
-    Sleep(20);
-    const auto start = Clock::now();
-    ASSERT_TRUE(TerminateThread(thread, 3));
-    EXPECT_EQ(WaitForSingleObject(thread, 2000), WAIT_OBJECT_0);
-    EXPECT_LT(Clock::now() - start, std::chrono::milliseconds(50));
     CloseHandle(thread);
 }
 
