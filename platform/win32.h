@@ -256,6 +256,8 @@ BOOL GetExitCodeThread(HANDLE thread, LPDWORD exitCode);
 //    leaves that wait at once and ends;
 //  - a thread running its own code is marked, and ends when it next enters
 //    one of those calls (a call made on itself ends it there and then).
+//    Other blocking calls (GetMessageW, SendMessageW, EnterCriticalSection,
+//    file and socket I/O) count as its own code.
 // The thread ends by unwinding its stack up to the entry the surface gave it,
 // so destructors run and nothing it owns leaks; a lock it took with
 // EnterCriticalSection and did not leave stays taken, as on Windows. Code
