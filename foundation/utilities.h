@@ -76,4 +76,19 @@ uint64_t GetFileSize64(const std::wstring& path);
 uint64_t Crc32(const std::string& text);
 
 // --- JSON -----------------------------------------------------------------
+// Every JSON text from the network or a file is parsed here. The parse never
+// throws: a text that jsoncpp refuses, whether by a parse error or by an
+// exception (nesting deeper than its limit of 1000 levels), gives false and
+// a null `out`.
 bool ParseJson(const std::string& text, Json::Value& out);
+
+struct JsonParseOptions
+{
+    bool rejectDuplicateKeys = false;
+    bool collectComments = true;
+};
+
+// The same parse with reader settings for files that people write; `error`,
+// when given, receives what jsoncpp reports (line and column first).
+bool ParseJson(const std::string& text, Json::Value& out, const JsonParseOptions& options,
+               std::string* error);

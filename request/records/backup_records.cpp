@@ -5,6 +5,7 @@
 using record_fields::AppendRecords;
 using record_fields::AppendStrings;
 using record_fields::JsonFields;
+using record_fields::ReadBool;
 using record_fields::RecordArray;
 using record_fields::StringArray;
 using record_fields::StringObject;
@@ -41,7 +42,7 @@ std::int32_t MkFile::FromJson(const Json::Value& value)
     ts = in["ts"].asString();
     extParams.clear();
     ObjectToStringMap(in["extParams"], extParams);
-    needRun = in["needRun"].asBool();
+    needRun = ReadBool(in["needRun"]);
     return in.Check({"name", "sig", "size", "url", "ts", "extParams", "needRun"});
 }
 

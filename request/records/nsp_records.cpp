@@ -9,6 +9,7 @@
 using record_fields::AppendRecords;
 using record_fields::AppendStrings;
 using record_fields::JsonFields;
+using record_fields::ReadBool;
 using record_fields::ReadStringMembers;
 using record_fields::RecordArray;
 using record_fields::StringArray;
@@ -101,7 +102,7 @@ std::int32_t NspDelFiles::FromJson(const Json::Value& value)
     const JsonFields in(value);
     nsp_svc = in["nsp_svc"].asString();
     files = in["files"].asString();
-    reserve = in["reserve"].asBool();
+    reserve = ReadBool(in["reserve"]);
     access_token = in["access_token"].asString();
     return in.Check({"nsp_svc", "access_token", "files", "reserve"});
 }

@@ -5,6 +5,7 @@
 using record_fields::AppendRecords;
 using record_fields::AppendStrings;
 using record_fields::JsonFields;
+using record_fields::ReadBool;
 using record_fields::RecordArray;
 
 std::int32_t QuotaDetail::FromJson(const Json::Value& value)
@@ -16,7 +17,7 @@ std::int32_t QuotaDetail::FromJson(const Json::Value& value)
     assetsQuotadSpace = in["assetsQuotadSpace"].asInt64();
     appId = in["appId"].asString();
     collection = in["collection"].asString();
-    trashed = in["trashed"].asBool();
+    trashed = ReadBool(in["trashed"]);
     parentId = in["parentId"].asString();
     return in.Check({"statistics", "serviceType", "recordsQuotadSpace", "assetsQuotadSpace", "appId",
                      "collection", "trashed", "parentId"});

@@ -29,6 +29,27 @@ inline std::int32_t CheckKeys(const Json::Value& value, std::initializer_list<co
     return 0;
 }
 
+// A boolean field as every record reads it: a number is true when not zero,
+// a string, array or object when not empty, null is false. That is the
+// documented conversion of jsoncpp's asBool; the release we build against
+// throws on a string or a container instead, which would end the record's
+// reading at this field.
+inline bool ReadBool(const Json::Value& value)
+{
+    switch (value.type()) {
+    case Json::stringValue: {
+        const char* begin = nullptr;
+        const char* end = nullptr;
+        return value.getString(&begin, &end) && begin != end;
+    }
+    case Json::arrayValue:
+    case Json::objectValue:
+        return value.size() != 0;
+    default:
+        return value.asBool();
+    }
+}
+
 // The keys of one JSON object as a record reads them. `in["key"]` is
 // `value["key"]` on a constant value (the member, null for an absent key, a
 // jsoncpp exception when the value is neither an object nor null), and

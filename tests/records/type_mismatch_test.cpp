@@ -1,7 +1,10 @@
-// How the records take a value of the wrong type, decided by jsoncpp (1.9):
-// a convertible value is converted, any other makes the read throw, and the
-// record keeps what it read before the fault. Every row reads a real record
-// from a reply through ReadRecord, the way the exchange does.
+// How the records take a value of the wrong type: a convertible value is
+// converted, any other makes the read throw, and the record keeps what it
+// read before the fault. jsoncpp decides, except for booleans: a string, an
+// array or an object reads as true when it is not empty, as jsoncpp's own
+// table of conversions says, where the release we build against throws.
+// Every row reads a real record from a reply through ReadRecord, the way the
+// exchange does.
 
 #include <functional>
 #include <ostream>
@@ -100,10 +103,25 @@ INSTANTIATE_TEST_SUITE_P(
         MismatchRow{"NonZeroNumberIntoBoolIsTrue", [] { ExpectQuotaDetailTrashed("2", true, "p1"); }},
         MismatchRow{"ZeroIntoBoolIsFalse", [] { ExpectQuotaDetailTrashed("0", false, "p1"); }},
         MismatchRow{"BooleanIntoBoolIsItself", [] { ExpectQuotaDetailTrashed("true", true, "p1"); }},
-        // jsoncpp 1.9 refuses text and containers as booleans, so the read
-        // stops at "trashed" and "parentId" is never reached.
-        MismatchRow{"StringIntoBoolStopsTheRead", [] { ExpectQuotaDetailTrashed(R"("false")", false, ""); }},
-        MismatchRow{"ArrayIntoBoolStopsTheRead", [] { ExpectQuotaDetailTrashed("[1]", false, ""); }},
+        // text and containers are true when not empty, and the read goes on
+        MismatchRow{"StringIntoBoolIsTrueWhenNotEmpty",
+                    [] { ExpectQuotaDetailTrashed(R"("false")", true, "p1"); }},
+        MismatchRow{"EmptyStringIntoBoolIsFalse", [] { ExpectQuotaDetailTrashed(R"("")", false, "p1"); }},
+        MismatchRow{"ArrayIntoBoolIsTrueWhenNotEmpty", [] { ExpectQuotaDetailTrashed("[1]", true, "p1"); }},
+        MismatchRow{"EmptyArrayIntoBoolIsFalse", [] { ExpectQuotaDetailTrashed("[]", false, "p1"); }},
+        MismatchRow{"ObjectIntoBoolIsTrueWhenNotEmpty",
+                    [] { ExpectQuotaDetailTrashed(R"({"a":1})", true, "p1"); }},
+        MismatchRow{"EmptyObjectIntoBoolIsFalse", [] { ExpectQuotaDetailTrashed("{}", false, "p1"); }},
+        MismatchRow{"NullIntoBoolIsFalse", [] { ExpectQuotaDetailTrashed("null", false, "p1"); }},
+        MismatchRow{"StringIntoEveryBooleanFieldIsTrue",
+                    [] {
+                        const auto file = ReadReply<MkFile>(R"({"needRun":"no","name":"n"})");
+                        EXPECT_TRUE(file->needRun);
+                        const auto removal = ReadReply<NspDelFiles>(
+                            R"({"nsp_svc":"s","files":"[]","reserve":"False","access_token":"t"})");
+                        EXPECT_TRUE(removal->reserve);
+                        EXPECT_EQ(removal->access_token, "t");
+                    }},
         // anything into a string field
         MismatchRow{"IntegerIntoStringIsItsText",
                     [] {
