@@ -136,6 +136,11 @@ CResponseInfo PerformCurlExchange(const CurlExchangeSpec& ex, AnyHttpHeaderMap& 
     // TLS handshake and all, by the next one.
     curl_easy_setopt(handle, CURLOPT_MAXCONNECTS, kIdleConnectionsKept);
     curl_easy_setopt(handle, CURLOPT_URL, ex.url.c_str());
+    // The services speak HTTP(S) only. libcurl would otherwise read a file://
+    // URL from the disk or open any of its other protocols for a mistyped
+    // address, and follow a redirect into them.
+    curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "http,https");
+    curl_easy_setopt(handle, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
     curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, errorText);
     curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headerList.get());

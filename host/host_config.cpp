@@ -13,8 +13,10 @@
 #include <sstream>
 #include <system_error>
 
-#include <json/reader.h>
 #include <json/value.h>
+
+#include "foundation/utilities.h"
+#include "host/http_url.h"
 
 namespace host {
 
@@ -66,6 +68,17 @@ public:
         if (Find(name) != nullptr) {
             String(name, text);
             out = text;
+        }
+    }
+
+    // A service address: empty (the service is not configured) or an
+    // absolute http:// or https:// URL. The transport speaks nothing else,
+    // and a typo is better refused here than sent to some other protocol.
+    void Url(const char* name, std::string& out) const
+    {
+        String(name, out);
+        if (!out.empty() && !IsAbsoluteHttpUrl(out)) {
+            Fail(KeyOf(name), "must be an absolute http:// or https:// URL");
         }
     }
 
@@ -131,6 +144,49 @@ private:
     const Json::Value& object_;
     std::string prefix_;
 };
+
+void ReadServices(const ObjectReader& services, ServiceUrls& urls)
+{
+    services.RejectUnknown({"nsp", "basic", "portal", "cloudPhoto", "cbs", "pimds", "familyShare",
+                            "cloudSyncDrive", "accountQuota", "omConfig"});
+    services.Url("nsp", urls.nsp);
+    services.Url("basic", urls.basic);
+    services.Url("portal", urls.portal);
+    services.Url("cloudPhoto", urls.cloudPhoto);
+    services.Url("cbs", urls.cbs);
+    services.Url("pimds", urls.pimds);
+    services.Url("familyShare", urls.familyShare);
+    services.Url("cloudSyncDrive", urls.cloudSyncDrive);
+    services.Url("accountQuota", urls.accountQuota);
+    services.Url("omConfig", urls.omConfig);
+}
+
+void ReadBackup(const ObjectReader& backup, HostConfig& config)
+{
+    backup.RejectUnknown({"generation", "devices"});
+    backup.String("generation", config.backupGeneration);
+    backup.ArrayOfObjects("devices", [&](const ObjectReader& device) {
+        device.RejectUnknown({"deviceId", "deviceName"});
+        BackupDevice entry;
+        device.String("deviceId", entry.deviceId);
+        device.String("deviceName", entry.deviceName);
+        config.backupDevices.push_back(entry);
+    });
+}
+
+void ReadNetwork(const ObjectReader& network, HostConfig& config)
+{
+    network.RejectUnknown({"mode", "file"});
+    network.String("mode", config.networkMode);
+    const std::string& mode = config.networkMode;
+    if (mode != "system" && mode != "online" && mode != "offline" && mode != "file") {
+        network.Fail(network.KeyOf("mode"), "must be one of \"system\", \"online\", \"offline\", \"file\"");
+    }
+    network.String("file", config.networkFile);
+    if (mode == "file" && config.networkFile.empty()) {
+        network.Fail(network.KeyOf("file"), "must name a file when \"network.mode\" is \"file\"");
+    }
+}
 
 // jsoncpp reports "* Line 3, Column 5\n  Missing ',' or '}' in object
 // declaration\n..."; the first error, on one line, is enough.
@@ -200,15 +256,17 @@ HostConfig LoadHostConfigFile(const std::string& path)
     if (in.bad()) {
         throw ConfigError(path + ": cannot be read");
     }
-    const std::string text = content.str();
+    return ParseHostConfigText(path, content.str());
+}
 
-    Json::CharReaderBuilder builder;
-    builder["collectComments"] = false;
-    builder["rejectDupKeys"] = true;
-    const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
+HostConfig ParseHostConfigText(const std::string& path, const std::string& text)
+{
+    JsonParseOptions options;
+    options.rejectDuplicateKeys = true;
+    options.collectComments = false;
     Json::Value root;
     std::string errors;
-    if (!reader->parse(text.data(), text.data() + text.size(), &root, &errors)) {
+    if (!ParseJson(text, root, options, &errors)) {
         throw ConfigError(path + ": is not JSON: " + FirstParseError(errors));
     }
     if (!root.isObject()) {
@@ -221,21 +279,7 @@ HostConfig LoadHostConfigFile(const std::string& path)
     const ObjectReader top(path, root, "");
     top.RejectUnknown({"services", "session", "language", "replaceCommaCountry", "deviceModel", "deviceUuid",
                        "backup", "network", "dataDir", "logDir", "caFile", "timeoutSeconds"});
-    top.Object("services", [&](const ObjectReader& services) {
-        services.RejectUnknown({"nsp", "basic", "portal", "cloudPhoto", "cbs", "pimds", "familyShare",
-                                "cloudSyncDrive", "accountQuota", "omConfig"});
-        ServiceUrls& urls = config.services;
-        services.String("nsp", urls.nsp);
-        services.String("basic", urls.basic);
-        services.String("portal", urls.portal);
-        services.String("cloudPhoto", urls.cloudPhoto);
-        services.String("cbs", urls.cbs);
-        services.String("pimds", urls.pimds);
-        services.String("familyShare", urls.familyShare);
-        services.String("cloudSyncDrive", urls.cloudSyncDrive);
-        services.String("accountQuota", urls.accountQuota);
-        services.String("omConfig", urls.omConfig);
-    });
+    top.Object("services", [&](const ObjectReader& services) { ReadServices(services, config.services); });
     top.Object("session", [&](const ObjectReader& session) {
         session.RejectUnknown({"accessToken", "userId", "country"});
         session.String("accessToken", config.session.accessToken);
@@ -246,35 +290,17 @@ HostConfig LoadHostConfigFile(const std::string& path)
     top.Bool("replaceCommaCountry", config.replaceCommaCountry);
     top.String("deviceModel", config.deviceModel);
     top.String("deviceUuid", config.deviceUuid);
-    top.Object("backup", [&](const ObjectReader& backup) {
-        backup.RejectUnknown({"generation", "devices"});
-        backup.String("generation", config.backupGeneration);
-        backup.ArrayOfObjects("devices", [&](const ObjectReader& device) {
-            device.RejectUnknown({"deviceId", "deviceName"});
-            BackupDevice entry;
-            device.String("deviceId", entry.deviceId);
-            device.String("deviceName", entry.deviceName);
-            config.backupDevices.push_back(entry);
-        });
-    });
-    top.Object("network", [&](const ObjectReader& network) {
-        network.RejectUnknown({"mode", "file"});
-        network.String("mode", config.networkMode);
-        const std::string& mode = config.networkMode;
-        if (mode != "system" && mode != "online" && mode != "offline" && mode != "file") {
-            network.Fail(network.KeyOf("mode"),
-                         "must be one of \"system\", \"online\", \"offline\", \"file\"");
-        }
-        network.String("file", config.networkFile);
-        if (mode == "file" && config.networkFile.empty()) {
-            network.Fail(network.KeyOf("file"), "must name a file when \"network.mode\" is \"file\"");
-        }
-    });
+    top.Object("backup", [&](const ObjectReader& backup) { ReadBackup(backup, config); });
+    top.Object("network", [&](const ObjectReader& network) { ReadNetwork(network, config); });
     top.String("dataDir", dataDir);
     top.String("logDir", logDir);
     top.String("caFile", config.caFile);
     top.Int("timeoutSeconds", config.timeoutSeconds);
+    if (config.timeoutSeconds && *config.timeoutSeconds < 0) {
+        top.Fail("timeoutSeconds", "must not be negative");
+    }
 
+    std::error_code ec;
     const fs::path folder =
         fs::path(path).parent_path().empty() ? fs::path(".") : fs::path(path).parent_path();
     const fs::path absoluteFolder = fs::absolute(folder, ec).lexically_normal();

@@ -54,6 +54,10 @@ public:
 // taken relative to the file's folder.
 HostConfig LoadHostConfigFile(const std::string& path);
 
+// The same for a text already read; `path` names it in messages and anchors
+// its relative paths.
+HostConfig ParseHostConfigText(const std::string& path, const std::string& text);
+
 // The file to read: `--config FILE`, else $SPACEMGM_CONFIG, else
 // $XDG_CONFIG_HOME/spacemgm/spacemgm.json (~/.config when unset) if it
 // exists; nullopt when none applies.

@@ -1,7 +1,10 @@
 // The operations configuration of the stand-alone host: "SpaceOMConfig.json"
 // is downloaded from `services.omConfig` into the data folder. The new file
 // is written beside the old one, flushed to disk and renamed over it, so a
-// reader sees either the old file or the new one, never a part.
+// reader sees either the old file or the new one, never a part. Only a reply
+// that is a JSON object replaces the file: anything else (an error page, a
+// cut body, a text nested deeper than a reader takes) would be read again on
+// every later start, so it is treated as a failed download.
 #include "platform/operation_manage_service.h"
 
 #include <fcntl.h>
@@ -12,6 +15,9 @@
 #include <string>
 #include <system_error>
 
+#include <json/value.h>
+
+#include "foundation/utilities.h"
 #include "host/host_config.h"
 #include "host/session_get.h"
 
@@ -57,6 +63,12 @@ bool ReplaceAtomically(const std::filesystem::path& target, const std::string& d
     return true;
 }
 
+bool IsJsonObject(const std::string& text)
+{
+    Json::Value parsed;
+    return ParseJson(text, parsed) && parsed.isObject();
+}
+
 } // namespace
 
 COperationManageService* COperationManageService::GetInstance()
@@ -74,6 +86,9 @@ bool COperationManageService::GetSpaceOMConfig()
     std::string body;
     if (host::GetAsSignedInUser(config.services.omConfig, body) != 200) {
         // The previous file, or none, stays in place.
+        return false;
+    }
+    if (!IsJsonObject(body)) {
         return false;
     }
     return ReplaceAtomically(std::filesystem::path(config.dataDir) / "SpaceOMConfig.json", body);

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <thread>
 
+#include <json/value.h>
+
 #include "host/host_config.h"
 #include "utilities/temp_folder.h"
 
@@ -231,6 +233,55 @@ TEST(HostConfig, FileNetworkModeWithoutAFileIsRefused)
     const auto file = folder.Write("nofile.json", R"({"network": {"mode": "file"}})");
     EXPECT_EQ(ErrorOf(file.string()),
               file.string() + ": \"network.file\" must name a file when \"network.mode\" is \"file\"");
+}
+
+TEST(HostConfig, AFileNestedTwoHundredThousandDeepIsNotJson)
+{
+    TempFolder folder;
+    std::string text;
+    for (int i = 0; i < 200000; ++i) {
+        text += R"({"services":)";
+    }
+    const auto file = folder.Write("deep.json", text);
+    EXPECT_EQ(ErrorOf(file.string()), file.string() + ": is not JSON: nested more than 1000 levels deep");
+}
+
+TEST(HostConfig, ServiceUrlsMustBeAbsoluteHttpOrHttps)
+{
+    TempFolder folder;
+    const char* const refused[] = {"file:///etc/passwd#",     "gopher://127.0.0.1:70/x",
+                                   "ftp://example.com/",      "/relative/path",
+                                   "127.0.0.1:8080/nsp",      "http://",
+                                   "http://exa mple.com/nsp", "https://example.com/\tnsp"};
+    int index = 0;
+    for (const char* url : refused) {
+        Json::Value root;
+        root["services"]["cbs"] = url;
+        const auto file = folder.Write("url" + std::to_string(index++) + ".json", root.toStyledString());
+        EXPECT_EQ(ErrorOf(file.string()),
+                  file.string() + ": \"services.cbs\" must be an absolute http:// or https:// URL")
+            << url;
+    }
+}
+
+TEST(HostConfig, HttpAndHttpsUrlsAndAnEmptyOneAreAccepted)
+{
+    TempFolder folder;
+    const auto file = folder.Write("urls.json", R"({"services": {"nsp": "http://127.0.0.1:4000/nsp",
+        "cbs": "HTTPS://cloud.example.com/cbs?x=1", "pimds": ""}})");
+    const host::HostConfig config = host::LoadHostConfigFile(file.string());
+    EXPECT_EQ(config.services.nsp, "http://127.0.0.1:4000/nsp");
+    EXPECT_EQ(config.services.cbs, "HTTPS://cloud.example.com/cbs?x=1");
+    EXPECT_EQ(config.services.pimds, "");
+}
+
+TEST(HostConfig, ANegativeTimeoutIsRefused)
+{
+    TempFolder folder;
+    const auto file = folder.Write("timeout.json", R"({"timeoutSeconds": -1})");
+    EXPECT_EQ(ErrorOf(file.string()), file.string() + ": \"timeoutSeconds\" must not be negative");
+    const auto zero = folder.Write("zero.json", R"({"timeoutSeconds": 0})");
+    EXPECT_EQ(host::LoadHostConfigFile(zero.string()).timeoutSeconds, 0);
 }
 
 TEST(HostConfigPath, CommandLineWinsOverEverything)

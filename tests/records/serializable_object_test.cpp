@@ -62,6 +62,21 @@ TEST(ReadRecord, TextThatIsNoJsonLeavesRecordAsConstructed)
     EXPECT_EQ(record.info, "kept");
 }
 
+TEST(ReadRecord, AReplyNestedFiveThousandDeepLeavesRecordAsConstructed)
+{
+    BaseRsp record = FilledBaseRsp();
+    EXPECT_NO_THROW(ReadRecord(record, std::string(5000, '[')));
+    EXPECT_EQ(record.result, 7);
+    EXPECT_EQ(record.info, "kept");
+
+    std::string deepObject = R"({"result":1,"info":)";
+    for (int i = 0; i < 5000; ++i) {
+        deepObject += R"({"a":)";
+    }
+    EXPECT_NO_THROW(ReadRecord(record, deepObject));
+    EXPECT_EQ(record.result, 7);
+}
+
 TEST(ReadRecord, AbsentKeysOverwriteMembersWithJsonDefaults)
 {
     BaseRsp record = FilledBaseRsp();

@@ -115,6 +115,52 @@ TEST_F(TransportTest, TimeoutIsReadInSecondsAndEndsTheTransferWithAnException)
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(2400));
 }
 
+TEST_F(TransportTest, AFileUrlIsRefusedWithoutReadingTheFile)
+{
+    AnyHttpRequest request("file:///etc/passwd#", AnyHttpGet);
+    request.Initialize(AnyHttpGet, {}, "", 5, 3, 0, 0);
+    AnyHttpHeaderMap received;
+    try {
+        const CResponseInfo reply = request.SendWebRequest(received);
+        FAIL() << "a file URL was fetched: " << reply.body.size() << " bytes";
+    } catch (const std::runtime_error& error) {
+        EXPECT_NE(std::string(error.what()).find("Unsupported protocol"), std::string::npos) << error.what();
+    }
+}
+
+TEST_F(TransportTest, ProtocolsOtherThanHttpAreRefusedAtOnce)
+{
+    for (const char* url : {"gopher://127.0.0.1:1/x", "ftp://127.0.0.1:1/x", "dict://127.0.0.1:1/x",
+                            "telnet://127.0.0.1:1", "scp://127.0.0.1:1/x"}) {
+        AnyHttpRequest request(url, AnyHttpGet);
+        request.Initialize(AnyHttpGet, {}, "", 5, 3, 0, 0);
+        AnyHttpHeaderMap received;
+        try {
+            request.SendWebRequest(received);
+            ADD_FAILURE() << url << " was fetched";
+        } catch (const std::runtime_error& error) {
+            EXPECT_NE(std::string(error.what()).find("Unsupported protocol"), std::string::npos)
+                << url << ": " << error.what();
+        }
+    }
+}
+
+TEST_F(TransportTest, ARedirectIsHandedBackAndNotFollowed)
+{
+    CannedReply redirect;
+    redirect.status = 302;
+    redirect.body = "";
+    redirect.headers["Location"] = "file:///etc/passwd";
+    server.Reply(redirect);
+    AnyHttpRequest request(server.Url("/moved"), AnyHttpGet);
+    request.Initialize(AnyHttpGet, {}, "", 5, 3, 0, 0);
+    AnyHttpHeaderMap received;
+    const CResponseInfo reply = request.SendWebRequest(received);
+    EXPECT_EQ(reply.status, 302);
+    EXPECT_EQ(reply.body, "");
+    EXPECT_EQ(server.Count(), 1u);
+}
+
 TEST_F(TransportTest, FailureTextNeverHoldsTheToken)
 {
     AnyHttpRequest request("http://127.0.0.1:1/x", AnyHttpGet);
