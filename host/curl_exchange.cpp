@@ -1,11 +1,14 @@
 #include "host/curl_exchange.h"
 
+#include <chrono>
+#include <exception>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
 #include "host/curl_connection_cache.h"
+#include "host/exchange_observer.h"
 
 namespace host {
 namespace {
@@ -97,9 +100,68 @@ size_t CollectHeader(char* data, size_t size, size_t count, void* target)
     return size * count;
 }
 
-} // namespace
+// What every exchange sets apart from its headers and body.
+void SetTransferOptions(CURL* handle, const CurlExchangeSpec& ex)
+{
+    // libcurl keeps 5 idle connections by default and closes the oldest when
+    // a sixth comes back. The space load runs a dozen requests at once, so 7
+    // of its connections were closed after every fan-out and opened again,
+    // TLS handshake and all, by the next one.
+    curl_easy_setopt(handle, CURLOPT_MAXCONNECTS, kIdleConnectionsKept);
+    curl_easy_setopt(handle, CURLOPT_URL, ex.url.c_str());
+    // The services speak HTTP(S) only. libcurl would otherwise read a file://
+    // URL from the disk or open any of its other protocols for a mistyped
+    // address, and follow a redirect into them.
+    curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "http,https");
+    curl_easy_setopt(handle, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+    curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
+    curl_easy_setopt(handle, CURLOPT_HTTP_VERSION,
+                     ex.httpVersion == 2 ? CURL_HTTP_VERSION_2TLS : CURL_HTTP_VERSION_1_1);
+    curl_easy_setopt(handle, CURLOPT_SSL_VERIFYPEER, 1L);
+    curl_easy_setopt(handle, CURLOPT_SSL_VERIFYHOST, 2L);
+    if (!ex.caFile.empty()) {
+        curl_easy_setopt(handle, CURLOPT_CAINFO, ex.caFile.c_str());
+    }
+    const long timeout = ex.timeoutSeconds;
+    if (timeout > 0) {
+        curl_easy_setopt(handle, CURLOPT_TIMEOUT, timeout);
+    }
+}
 
-CResponseInfo PerformCurlExchange(const CurlExchangeSpec& ex, AnyHttpHeaderMap& responseHeaders)
+TransportFailure FailureOf(CURLcode result)
+{
+    switch (result) {
+    case CURLE_OPERATION_TIMEDOUT:
+        return TransportFailure::Timeout;
+    case CURLE_COULDNT_CONNECT:
+        return TransportFailure::Connect;
+    case CURLE_COULDNT_RESOLVE_HOST:
+    case CURLE_COULDNT_RESOLVE_PROXY:
+        return TransportFailure::Resolve;
+    case CURLE_PEER_FAILED_VERIFICATION:
+        return TransportFailure::TlsUntrusted;
+    case CURLE_SSL_CACERT_BADFILE:
+        return TransportFailure::TlsCaFile;
+    case CURLE_SSL_CONNECT_ERROR:
+        return TransportFailure::TlsHandshake;
+    case CURLE_GOT_NOTHING:
+    case CURLE_PARTIAL_FILE:
+    case CURLE_RECV_ERROR:
+    case CURLE_SEND_ERROR:
+        return TransportFailure::Closed;
+    case CURLE_UNSUPPORTED_PROTOCOL:
+    case CURLE_URL_MALFORMAT:
+        return TransportFailure::Protocol;
+    default:
+        return TransportFailure::Other;
+    }
+}
+
+// One transfer on this thread's handle. Returns libcurl's result; on a
+// failure `message` says what failed, naming the host and the step, never
+// a header, so that no token can reach it.
+CURLcode Transfer(const CurlExchangeSpec& ex, CResponseInfo& response, AnyHttpHeaderMap& responseHeaders,
+                  std::string& message)
 {
     CURLSH* share = SharedConnectionCache();
 
@@ -122,43 +184,18 @@ CResponseInfo PerformCurlExchange(const CurlExchangeSpec& ex, AnyHttpHeaderMap& 
         CURL* handle;
         ~ResetOnExit() { curl_easy_reset(handle); }
     } resetOnExit{handle};
-    const bool post = ex.post;
-    const bool carriesBody = post || !ex.body.empty();
+    const bool carriesBody = ex.post || !ex.body.empty();
     HeaderList headerList = BuildHeaderList(ex.headers, carriesBody);
-
-    CResponseInfo response;
     char errorText[CURL_ERROR_SIZE] = {0};
 
     curl_easy_setopt(handle, CURLOPT_SHARE, share);
-    // libcurl keeps 5 idle connections by default and closes the oldest when
-    // a sixth comes back. The space load runs a dozen requests at once, so 7
-    // of its connections were closed after every fan-out and opened again,
-    // TLS handshake and all, by the next one.
-    curl_easy_setopt(handle, CURLOPT_MAXCONNECTS, kIdleConnectionsKept);
-    curl_easy_setopt(handle, CURLOPT_URL, ex.url.c_str());
-    // The services speak HTTP(S) only. libcurl would otherwise read a file://
-    // URL from the disk or open any of its other protocols for a mistyped
-    // address, and follow a redirect into them.
-    curl_easy_setopt(handle, CURLOPT_PROTOCOLS_STR, "http,https");
-    curl_easy_setopt(handle, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
-    curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L);
     curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, errorText);
     curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headerList.get());
-    curl_easy_setopt(handle, CURLOPT_HTTP_VERSION,
-                     ex.httpVersion == 2 ? CURL_HTTP_VERSION_2TLS : CURL_HTTP_VERSION_1_1);
-    curl_easy_setopt(handle, CURLOPT_SSL_VERIFYPEER, 1L);
-    curl_easy_setopt(handle, CURLOPT_SSL_VERIFYHOST, 2L);
-    if (!ex.caFile.empty()) {
-        curl_easy_setopt(handle, CURLOPT_CAINFO, ex.caFile.c_str());
-    }
-    const long timeout = ex.timeoutSeconds;
-    if (timeout > 0) {
-        curl_easy_setopt(handle, CURLOPT_TIMEOUT, timeout);
-    }
+    SetTransferOptions(handle, ex);
     if (carriesBody) {
         curl_easy_setopt(handle, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(ex.body.size()));
         curl_easy_setopt(handle, CURLOPT_POSTFIELDS, ex.body.data());
-        if (!post) {
+        if (!ex.post) {
             curl_easy_setopt(handle, CURLOPT_CUSTOMREQUEST, "GET");
         }
     } else {
@@ -172,18 +209,49 @@ CResponseInfo PerformCurlExchange(const CurlExchangeSpec& ex, AnyHttpHeaderMap& 
 
     const CURLcode result = curl_easy_perform(handle);
     if (result != CURLE_OK) {
-        // The error buffer names the host and the failing step, never a header,
-        // so no token can reach this text.
-        std::string message = std::string("HTTP transfer failed: ") + curl_easy_strerror(result);
+        message = std::string("HTTP transfer failed: ") + curl_easy_strerror(result);
         if (errorText[0] != '\0') {
             message += std::string(" (") + errorText + ")";
         }
-        throw std::runtime_error(message);
+        return result;
     }
     long status = 0;
     curl_easy_getinfo(handle, CURLINFO_RESPONSE_CODE, &status);
     response.status = static_cast<int32_t>(status);
     responseHeaders = std::move(received);
+    return CURLE_OK;
+}
+
+} // namespace
+
+CResponseInfo PerformCurlExchange(const CurlExchangeSpec& ex, AnyHttpHeaderMap& responseHeaders)
+{
+    const ExchangeStart start = exchange_events::Started(ex.url);
+    ExchangeRecord record;
+    record.id = start.id;
+    record.service = start.service;
+    record.path = start.path;
+    record.timeoutSeconds = ex.timeoutSeconds;
+    record.caFile = ex.caFile;
+    CResponseInfo response;
+    CURLcode result = CURLE_OK;
+    std::string message;
+    try {
+        result = Transfer(ex, response, responseHeaders, message);
+    } catch (const std::exception& error) {
+        result = CURLE_FAILED_INIT;
+        message = error.what();
+    }
+    record.seconds =
+        std::chrono::duration<double>(std::chrono::steady_clock::now() - start.startedAt).count();
+    if (result != CURLE_OK) {
+        record.failure = FailureOf(result);
+        record.transportError = message;
+        exchange_events::Ended(std::move(record), std::string());
+        throw std::runtime_error(message);
+    }
+    record.status = response.status;
+    exchange_events::Ended(std::move(record), response.body);
     return response;
 }
 

@@ -18,6 +18,7 @@
 #include <json/value.h>
 
 #include "foundation/utilities.h"
+#include "host/exchange_observer.h"
 #include "host/host_config.h"
 #include "host/session_get.h"
 
@@ -89,6 +90,7 @@ bool COperationManageService::GetSpaceOMConfig()
         return false;
     }
     if (!IsJsonObject(body)) {
+        host::ReportRefusedReply("the reply is not a JSON object");
         return false;
     }
     return ReplaceAtomically(std::filesystem::path(config.dataDir) / "SpaceOMConfig.json", body);

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "host/exchange_observer.h"
 #include "host/host_config.h"
 #include "host/quota_reply.h"
 #include "host/session_get.h"
@@ -21,7 +22,11 @@ bool UserSpace::QueryUserSpace(UserSpaceInfo& info, bool /*force*/)
     if (host::GetAsSignedInUser(url, body) != 200) {
         return false;
     }
-    return host::ParseQuotaReply(body, info);
+    if (!host::ParseQuotaReply(body, info)) {
+        host::ReportRefusedReply("the reply is not a quota");
+        return false;
+    }
+    return true;
 }
 
 } // namespace Drive
