@@ -1,138 +1,136 @@
-// The stand-alone host's main job, without a window:
-//
-//   spacemgm usage [--json] [--config FILE]
-//   spacemgm delete backup DEVICE | messages | calls | harassment [--config FILE]
-//
-// `usage` runs one load the way the window's load thread does and prints the
-// quota, the bar's groups, the category rows and the backup devices.
-// `delete` runs one deletion and prints its result; the exit code is 0 only
-// for DeleteSuccess.
+// The stand-alone host's main job, without a window: `spacemgm usage` runs
+// one load the way the window's load thread does and prints what it found;
+// `spacemgm delete` runs one deletion and checks it with a reload. Every
+// exchange with a service is watched, so that a failed load is reported as
+// such instead of as an empty account. `spacemgm --help` has the details,
+// the exit codes among them.
 #include <cstdio>
 #include <iostream>
-#include <optional>
 #include <string>
 #include <vector>
 
+#include "app/category_names.h"
 #include "app/cbs_backup_deleter.h"
+#include "app/command_line.h"
+#include "app/exchange_log.h"
+#include "app/failure_lines.h"
+#include "app/progress_line.h"
+#include "app/progress_text.h"
 #include "app/space_load.h"
+#include "app/verified_delete.h"
 #include "host/backup_host_window.h"
+#include "host/exchange_observer.h"
 #include "host/host_config.h"
 #include "space_data/cloud_space_view_model.h"
 
 namespace {
 
-constexpr int kExitUsage = 2;
-
-void PrintUsage()
+bool AnyServiceConfigured(const host::ServiceUrls& urls)
 {
-    std::fprintf(stderr,
-                 "usage: spacemgm usage [--json] [--config FILE]\n"
-                 "       spacemgm delete backup DEVICE | messages | calls | harassment [--config FILE]\n");
-}
-
-struct CommandLine
-{
-    std::vector<std::string> words;
-    std::optional<std::string> configPath;
-    bool json = false;
-};
-
-bool Parse(int argc, char** argv, CommandLine& line)
-{
-    for (int i = 1; i < argc; ++i) {
-        const std::string arg = argv[i];
-        if (arg == "--config") {
-            if (i + 1 >= argc) {
-                return false;
-            }
-            line.configPath = argv[++i];
-        } else if (arg == "--json") {
-            line.json = true;
-        } else if (!arg.empty() && arg[0] == '-') {
-            return false;
-        } else {
-            line.words.push_back(arg);
+    for (const std::string* url :
+         {&urls.nsp, &urls.basic, &urls.portal, &urls.cloudPhoto, &urls.cbs, &urls.pimds, &urls.familyShare,
+          &urls.cloudSyncDrive, &urls.accountQuota, &urls.omConfig}) {
+        if (!url->empty()) {
+            return true;
         }
     }
-    return !line.words.empty();
+    return false;
 }
 
-const char* ResultName(DeleteResult result)
+// Reads the configuration in force; returns false after saying why it
+// cannot be used.
+bool SetUpConfiguration(const app::CommandLine& line)
 {
-    switch (result) {
-    case DeleteSuccess:
-        return "DeleteSuccess";
-    case DeleteFailed:
-        return "DeleteFailed";
-    case DeletePartFailed:
-        return "DeletePartFailed";
+    host::HostConfig config;
+    try {
+        const auto path = host::ResolveHostConfigPath(line.configPath);
+        config = path ? host::LoadHostConfigFile(*path) : host::DefaultHostConfig();
+    } catch (const host::ConfigError& error) {
+        std::fprintf(stderr, "spacemgm: %s\n", error.what());
+        return false;
     }
-    return "unknown";
+    if (!AnyServiceConfigured(config.services)) {
+        const std::string where = config.sourcePath.empty() ? std::string("no host configuration was found")
+                                                            : config.sourcePath + " names none";
+        std::fprintf(
+            stderr,
+            "spacemgm: no service is configured (%s). Give one with --config FILE, $SPACEMGM_CONFIG or "
+            "~/.config/spacemgm/spacemgm.json, or let scripts/run.sh start the local emulator.\n",
+            where.c_str());
+        return false;
+    }
+    if (line.timeoutSeconds) {
+        config.timeoutSeconds = line.timeoutSeconds;
+    }
+    host::SetCurrentHostConfig(std::move(config));
+    return true;
 }
 
-int RunUsage(CloudSpaceManagementViewModel& viewModel, bool json)
+void ReportFailures(const std::vector<app::FailedExchange>& failures)
 {
-    const app::UsageReport report = app::RunUsageLoad(viewModel);
-    std::cout << (json ? app::FormatUsageJson(report) : app::FormatUsageText(report));
-    return 0;
+    for (const std::string& line : app::FailureLines(failures)) {
+        std::fprintf(stderr, "%s\n", line.c_str());
+    }
 }
 
-int RunDelete(CloudSpaceManagementViewModel& viewModel, const std::vector<std::string>& words)
+int RunUsage(CloudSpaceManagementViewModel& viewModel, const app::CommandLine& line,
+             const app::ExchangeLog& log)
 {
-    DeleteResult result = DeleteFailed;
-    if (words.size() == 3 && words[1] == "backup") {
-        // The backup road needs what a load leaves: the generation, the
-        // version 1 id map and the rows.
-        const auto backup = viewModel.GetBackUpData();
-        if (backup->item && !backup->models.empty()) {
-            viewModel.model->backups = backup->models;
-        }
-        BackUpModel target;
-        target.deviceId = words[2];
-        for (const BackUpModel& row : viewModel.model->backups) {
-            if (row.deviceId == words[2]) {
-                target = row;
-            }
-        }
-        result = viewModel.DeleteBackUp(target);
-    } else if (words.size() == 2 && words[1] == "messages") {
-        result = viewModel.DeleteMessage(Message);
-    } else if (words.size() == 2 && words[1] == "calls") {
-        result = viewModel.DeleteMessage(Phone);
-    } else if (words.size() == 2 && words[1] == "harassment") {
-        result = viewModel.DeleteMessage(HarassmentInterception);
+    const int threadsBefore = log.ThreadsEnded();
+    app::ProgressLine progress(!line.json, [&] { return app::LoadProgressText(log, threadsBefore); });
+    app::UsageReport report = app::RunUsageLoad(viewModel);
+    progress.Stop();
+    report.failures = log.Failures();
+    if (line.json) {
+        std::cout << app::FormatUsageJson(report);
     } else {
-        PrintUsage();
-        return kExitUsage;
+        const app::CategoryTexts texts(app::ResourceRoot(), host::CurrentHostConfig().language);
+        std::cout << app::FormatUsageText(report, texts);
     }
-    std::cout << ResultName(result) << "\n";
-    return result == DeleteSuccess ? 0 : 1;
+    std::cout.flush();
+    ReportFailures(report.failures);
+    return report.failures.empty() ? app::kExitOk : app::kExitExchangeFailed;
+}
+
+int RunDelete(CloudSpaceManagementViewModel& viewModel, const app::CommandLine& line,
+              const app::ExchangeLog& log)
+{
+    app::ProgressLine progress(true, [&] { return app::DeleteProgressText(log); });
+    const app::DeleteOutcome outcome = app::RunVerifiedDelete(viewModel, line, log);
+    progress.Stop();
+    std::cout << app::DeleteResultName(outcome.result) << "\n" << outcome.finding << "\n";
+    std::cout.flush();
+    ReportFailures(log.Failures());
+    return app::ExitCodeOf(outcome);
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    CommandLine line;
-    if (!Parse(argc, argv, line) || (line.words[0] != "usage" && line.words[0] != "delete") ||
-        (line.words[0] == "usage" && line.words.size() != 1)) {
-        PrintUsage();
-        return kExitUsage;
-    }
+    app::CommandLine line;
     try {
-        const auto path = host::ResolveHostConfigPath(line.configPath);
-        host::SetCurrentHostConfig(path ? host::LoadHostConfigFile(*path) : host::DefaultHostConfig());
-    } catch (const host::ConfigError& error) {
-        std::fprintf(stderr, "spacemgm: %s\n", error.what());
-        return kExitUsage;
+        line = app::ParseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
+    } catch (const app::UsageError& error) {
+        std::fprintf(stderr, "spacemgm: %s\n%s", error.what(), app::ShortUsage());
+        return app::kExitBadUsage;
+    }
+    if (line.command == app::Command::Help || line.command == app::Command::Version) {
+        std::cout << (line.command == app::Command::Help ? app::HelpText() : app::VersionText());
+        return app::kExitOk;
+    }
+    if (!SetUpConfiguration(line)) {
+        return app::kExitBadUsage;
     }
 
+    app::ExchangeLog log;
+    const host::ScopedExchangeObserver watch(log);
     host::BackupHostWindow hostWindow(app::DeleteDeviceBackup);
     CloudSpaceManagementViewModel viewModel;
     viewModel.SetCloudbackupTipParam(hostWindow.Window(), host::kBackupVersionMessage,
                                      host::kBackupDeviceListMessage, host::kBackupDeleteMessage);
-    if (line.words[0] == "usage") {
-        return RunUsage(viewModel, line.json);
+    if (line.command == app::Command::Usage) {
+        return RunUsage(viewModel, line, log);
     }
-    return RunDelete(viewModel, line.words);
+    return RunDelete(viewModel, line, log);
 }

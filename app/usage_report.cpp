@@ -5,13 +5,24 @@
 #include <cstdio>
 #include <sstream>
 
+#include "app/display_text.h"
+#include "app/failure_lines.h"
 #include "foundation/utilities.h"
 
 namespace app {
 
 namespace {
 
-const char* const kGroupKeys[] = {"backup", "drive", "photos", "other", "family"};
+struct Group
+{
+    const char* key;
+    const char* words;
+};
+
+const Group kGroups[] = {
+    {"backup", "Cloud backup"}, {"drive", "Cloud drive"},     {"photos", "Gallery"},
+    {"other", "Other"},         {"family", "Family sharing"},
+};
 
 std::string Hex(unsigned long long color)
 {
@@ -32,74 +43,100 @@ std::string ColorText(const UsageReport& report, const std::string& key)
     return found == report.colors.end() ? std::string("none") : Hex(found->second);
 }
 
-} // namespace
-
-std::string CategoryName(CloudSpaceType type)
+std::shared_ptr<CloudSpaceItem> RowOf(const UsageReport& report, CloudSpaceType type)
 {
-    switch (type) {
-    case Contact:
-        return "Contact";
-    case Notepad:
-        return "Notepad";
-    case Gallery:
-        return "Gallery";
-    case CloudDisk:
-        return "CloudDisk";
-    case Recorder:
-        return "Recorder";
-    case CloudBackUp:
-        return "CloudBackUp";
-    case Browser:
-        return "Browser";
-    case HarassmentInterception:
-        return "HarassmentInterception";
-    case Message:
-        return "Message";
-    case Phone:
-        return "Phone";
-    case Wlan:
-        return "Wlan";
-    case Calendar:
-        return "Calendar";
+    for (const auto& item : report.items) {
+        if (item && item->type == type) {
+            return item;
+        }
     }
-    return "Unknown";
+    return nullptr;
 }
+
+// "34.00 GB, 2 items", "42.00 GB", "3621 items"; the figures as the module
+// formats them.
+std::string RowText(const CloudSpaceItem& item)
+{
+    const std::string size = CategorySizeText(item);
+    const std::string count = item.count.empty() || item.count == "0" ? std::string() : item.count + " items";
+    if (size.empty() && count.empty()) {
+        return "0 B";
+    }
+    if (size.empty() || count.empty()) {
+        return size + count;
+    }
+    return size + ", " + count;
+}
+
+void WriteCategories(std::ostream& out, const UsageReport& report, const CategoryTexts& texts)
+{
+    out << "Categories:\n";
+    // The rows first, in the order the load sorted them; then the categories
+    // without a row, in the order of the window's templates.
+    for (const auto& item : report.items) {
+        if (item) {
+            out << "  " << EscapeForTerminal(texts.NameOf(item->type)) << ": "
+                << EscapeForTerminal(RowText(*item)) << "\n";
+        }
+    }
+    for (CloudSpaceType type : AllCategories()) {
+        if (!RowOf(report, type)) {
+            out << "  " << EscapeForTerminal(texts.NameOf(type)) << ": no data\n";
+        }
+    }
+}
+
+void WriteBackups(std::ostream& out, const UsageReport& report)
+{
+    out << "Backups:\n";
+    if (report.backups.empty()) {
+        out << "  (none)\n";
+    }
+    for (const BackUpModel& backup : report.backups) {
+        const std::string name = backup.deviceName.empty() ? "(unnamed device)" : backup.deviceName;
+        out << "  " << EscapeForTerminal(name) << ": " << EscapeForTerminal(backup.sizeText) << ", device "
+            << EscapeForTerminal(backup.deviceId) << "\n";
+    }
+}
+
+Json::Value ErrorsJson(const std::vector<FailedExchange>& failures)
+{
+    Json::Value errors(Json::arrayValue);
+    for (const FailedExchange& failure : failures) {
+        Json::Value entry;
+        entry["service"] = failure.service;
+        entry["serviceName"] = ServiceDisplayName(failure.service);
+        entry["path"] = failure.path;
+        entry["status"] = failure.status;
+        entry["problem"] = failure.problem;
+        entry["seconds"] = failure.seconds;
+        entry["message"] = FailureLine(failure);
+        errors.append(entry);
+    }
+    return errors;
+}
+
+} // namespace
 
 std::string CategorySizeText(const CloudSpaceItem& item)
 {
     return item.space > 0 ? FormatSizeText(static_cast<double>(item.space)) : std::string();
 }
 
-std::string FormatUsageText(const UsageReport& report)
+std::string FormatUsageText(const UsageReport& report, const CategoryTexts& texts)
 {
     std::ostringstream out;
     out << "Used " << report.usedText << " of " << report.totalText << "\n";
+    if (ValueOr0(report.lengths, "full") > 0) {
+        out << "The account is full.\n";
+    }
     out << "Groups:\n";
-    for (const char* key : kGroupKeys) {
-        out << "  " << key << ": " << ValueOr0(report.storage, key) << " bytes, colour "
-            << ColorText(report, key) << ", bar " << ValueOr0(report.lengths, key) << "\n";
+    for (const Group& group : kGroups) {
+        out << "  " << group.words << ": "
+            << FormatSizeText(static_cast<double>(ValueOr0(report.storage, group.key))) << "\n";
     }
-    out << "  full: colour " << ColorText(report, "full") << ", bar " << ValueOr0(report.lengths, "full")
-        << "\n";
-    out << "  bkcolor: colour " << ColorText(report, "bkcolor") << ", bar "
-        << ValueOr0(report.lengths, "bkcolor") << "\n";
-    out << "Categories:\n";
-    if (report.items.empty()) {
-        out << "  (none)\n";
-    }
-    for (const auto& item : report.items) {
-        out << "  " << CategoryName(item->type) << ": size "
-            << (item->space > 0 ? CategorySizeText(*item) : "-") << ", count "
-            << (item->count.empty() ? "-" : item->count) << "\n";
-    }
-    out << "Backups:\n";
-    if (report.backups.empty()) {
-        out << "  (none)\n";
-    }
-    for (const BackUpModel& backup : report.backups) {
-        out << "  " << (backup.deviceName.empty() ? "(unnamed device)" : backup.deviceName) << ": "
-            << backup.sizeText << " (" << backup.size << " bytes), device " << backup.deviceId << "\n";
-    }
+    WriteCategories(out, report, texts);
+    WriteBackups(out, report);
     return out.str();
 }
 
@@ -111,13 +148,13 @@ std::string FormatUsageJson(const UsageReport& report)
     root["quota"]["usedBytes"] = Json::UInt64(report.usedBytes);
     root["quota"]["totalBytes"] = Json::UInt64(report.totalBytes);
     Json::Value& groups = root["groups"] = Json::Value(Json::arrayValue);
-    for (const char* key : kGroupKeys) {
-        Json::Value group;
-        group["key"] = key;
-        group["bytes"] = Json::UInt64(ValueOr0(report.storage, key));
-        group["color"] = ColorText(report, key);
-        group["length"] = Json::Int64(ValueOr0(report.lengths, key));
-        groups.append(group);
+    for (const Group& group : kGroups) {
+        Json::Value entry;
+        entry["key"] = group.key;
+        entry["bytes"] = Json::UInt64(ValueOr0(report.storage, group.key));
+        entry["color"] = ColorText(report, group.key);
+        entry["length"] = Json::Int64(ValueOr0(report.lengths, group.key));
+        groups.append(entry);
     }
     for (const char* key : {"full", "bkcolor"}) {
         root["bar"][key]["color"] = ColorText(report, key);
@@ -147,6 +184,7 @@ std::string FormatUsageJson(const UsageReport& report)
         row["sizeText"] = backup.sizeText;
         backups.append(row);
     }
+    root["errors"] = ErrorsJson(report.failures);
     Json::StreamWriterBuilder writer;
     writer["indentation"] = "  ";
     return Json::writeString(writer, root) + "\n";

@@ -44,6 +44,12 @@ bool LoadFaultRules(const Json::Value& rules, const std::string& where, cloud::F
 
 int main(int argc, char** argv)
 {
+    for (int i = 1; i < argc; ++i) {
+        if (std::string(argv[i]) == "--help" || std::string(argv[i]) == "-h") {
+            std::cout << cloud::Help();
+            return 0;
+        }
+    }
     cloud::Options options;
     std::string error;
     if (!cloud::ParseOptions(argc, argv, options, error)) {

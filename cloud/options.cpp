@@ -7,7 +7,28 @@ namespace cloud {
 std::string Usage()
 {
     return "usage: spacemgm-cloud --port N --fixture FILE [--state FILE] [--tls] [--faults FILE]\n"
-           "                      [--write-config FILE] [--ca-file FILE] [--threads N]\n";
+           "                      [--write-config FILE] [--ca-file FILE] [--threads N] [--start-delay-ms N]\n"
+           "       spacemgm-cloud --help\n";
+}
+
+std::string Help()
+{
+    return "spacemgm-cloud: a local emulator of the cloud services, on 127.0.0.1 only.\n\n" + Usage() +
+           "\n"
+           "  --port N              the port to listen on; 0 picks a free one\n"
+           "  --fixture FILE        the account to serve (cloud/fixtures/*.json)\n"
+           "  --state FILE          keep the account in FILE across runs, written after every change\n"
+           "  --tls                 serve HTTPS with a certificate made at start\n"
+           "  --faults FILE         fault rules active from the start (one rule or an array)\n"
+           "  --write-config FILE   write a host configuration for spacemgm pointing here\n"
+           "  --ca-file FILE        with --tls: where to write the CA certificate\n"
+           "  --threads N           worker threads\n"
+           "  --start-delay-ms N    wait N ms between printing \"ready\" and accepting connections\n"
+           "  --help                print this help and exit\n"
+           "\n"
+           "Exit status: 0 after SIGINT or SIGTERM; 2 for a bad command line, fixture, state or faults "
+           "file.\n"
+           "cloud/README.md describes the services, fixtures, faults and the admin API.\n";
 }
 
 static bool ParseInt(const std::string& text, int low, int high, int& out)

@@ -22,5 +22,7 @@ struct Options
 // Parses argv; on a bad command line returns false with `error` set.
 bool ParseOptions(int argc, char** argv, Options& options, std::string& error);
 std::string Usage();
+// Usage with a line on every option, for --help.
+std::string Help();
 
 } // namespace cloud

@@ -1,7 +1,8 @@
 // `spacemgm usage` against the sample account of spacemgm-cloud, run as the
 // program itself and read line by line. The expected texts were worked out
-// from the fixture: 120 GiB used of 200 GiB, the colours of its
-// configuration, bar lengths of 530 pixels times each group's share.
+// from the fixture: 120 GiB used of 200 GiB, the groups' sizes, the
+// categories under their English names; the colours of its configuration
+// and bar lengths of 530 pixels times each group's share are in the JSON.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -67,33 +68,31 @@ TEST(UsageOutput, SampleAccountLineByLine)
     const std::vector<std::string> expectedHead = {
         "Used 120 GB of 200 GB",
         "Groups:",
-        "  backup: 36507222016 bytes, colour 0xFF0A9BD4, bar 90",
-        "  drive: 26843545600 bytes, colour 0xFF2E6BE6, bar 66",
-        "  photos: 45097156608 bytes, colour 0xFF3DBB63, bar 111",
-        "  other: 17179869184 bytes, colour 0xFFF2A516, bar 42",
-        "  family: 3221225472 bytes, colour 0xFFE8643A, bar 7",
-        "  full: colour 0xFFFA2A2D, bar 0",
-        "  bkcolor: colour 0xFFF2F2F2, bar 530",
+        "  Cloud backup: 34.00 GB",
+        "  Cloud drive: 25.00 GB",
+        "  Gallery: 42.00 GB",
+        "  Other: 16.00 GB",
+        "  Family sharing: 3.00 GB",
         "Categories:",
-        "  CloudBackUp: size 34.00 GB, count 2",
-        "  Gallery: size 42.00 GB, count -",
-        "  CloudDisk: size 25.00 GB, count -",
-        "  HarassmentInterception: size 1.25 MB, count -",
-        "  Recorder: size 1.24 MB, count 6",
-        "  Notepad: size 273.64 KB, count 57",
-        "  Message: size -, count 3621",
-        "  Phone: size -, count 1029",
-        "  Contact: size -, count 812",
-        "  Browser: size -, count 354",
-        "  Calendar: size -, count 152",
-        "  Wlan: size -, count 23",
+        "  Cloud backup: 34.00 GB, 2 items",
+        "  Gallery: 42.00 GB",
+        "  Cloud drive: 25.00 GB",
+        "  Blocked calls and messages: 1.25 MB",
+        "  Recordings: 1.24 MB, 6 items",
+        "  Notes: 273.64 KB, 57 items",
+        "  Messages: 3621 items",
+        "  Call records: 1029 items",
+        "  Contacts: 812 items",
+        "  Browser data: 354 items",
+        "  Calendar: 152 items",
+        "  Wi-Fi networks: 23 items",
         "Backups:",
     };
     // The backup service is asked for the devices in no fixed order, so the
     // device lines are compared as a set.
     const std::vector<std::string> expectedDevices = {
-        "  Nuvo P60 Pro: 28.00 GB (30064771072 bytes), device bk-0001-a1f3",
-        "  Nuvo Pad 11: 6.00 GB (6442450944 bytes), device bk-0002-a1f3",
+        "  Nuvo P60 Pro: 28.00 GB, device bk-0001-a1f3",
+        "  Nuvo Pad 11: 6.00 GB, device bk-0002-a1f3",
     };
     ASSERT_EQ(lines.size(), expectedHead.size() + expectedDevices.size()) << run.output;
     for (size_t i = 0; i < expectedHead.size(); ++i) {
@@ -133,17 +132,27 @@ TEST(UsageOutput, JsonCarriesTheSameReport)
     EXPECT_EQ(browser["infoflowCount"].asInt(), 44);
     EXPECT_EQ(root["categories"][1]["recycle"].asInt64(), 2147483648);
     EXPECT_EQ(root["backups"].size(), 2u);
+    ASSERT_TRUE(root["errors"].isArray());
+    EXPECT_EQ(root["errors"].size(), 0u);
 }
 
-TEST(UsageOutput, EmptyAccountShowsNoRows)
+TEST(UsageOutput, EmptyAccountShowsNoDataForEveryCategory)
 {
     CloudEmulator cloud(CloudEmulator::Options::ForFixture("empty"));
     const ProgramRun run = RunUsage(cloud, "");
     ASSERT_EQ(run.exitCode, 0) << run.output;
     const auto lines = Lines(run.output);
-    ASSERT_GE(lines.size(), 4u);
+    ASSERT_EQ(lines.size(), 23u) << run.output;
     EXPECT_EQ(lines[0], "Used 0 B of 5 GB");
-    EXPECT_EQ(lines[lines.size() - 3], "  (none)");
+    EXPECT_EQ(lines[7], "Categories:");
+    const std::vector<std::string> categories(lines.begin() + 8, lines.begin() + 20);
+    const std::vector<std::string> expected = {
+        "  Wi-Fi networks: no data", "  Call records: no data", "  Browser data: no data",
+        "  Messages: no data",       "  Calendar: no data",     "  Contacts: no data",
+        "  Cloud backup: no data",   "  Gallery: no data",      "  Cloud drive: no data",
+        "  Notes: no data",          "  Recordings: no data",   "  Blocked calls and messages: no data",
+    };
+    EXPECT_EQ(categories, expected);
     EXPECT_EQ(lines[lines.size() - 2], "Backups:");
     EXPECT_EQ(lines.back(), "  (none)");
 }
