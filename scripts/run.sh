@@ -3,9 +3,12 @@
 # Arguments are passed to the program ("usage" when there are none).
 #
 # With no host configuration (no --config, no $SPACEMGM_CONFIG, no
-# ~/.config/spacemgm/spacemgm.json) it starts the local cloud emulator with
-# the sample account on a free loopback port, lets it write a matching
-# configuration, and points the program at it.
+# ~/.config/spacemgm/spacemgm.json) it starts the local cloud emulator on a
+# free loopback port with a fresh copy of the sample account (a deletion
+# made in one run is gone in the next), lets it write a matching
+# configuration, and points the program at it. The logs of such a run, the
+# emulator's and the program's, are kept under
+# ${XDG_STATE_HOME:-~/.local/state}/spacemgm/runs/, the newest ten runs.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/build.sh default spacemgm_app spacemgm-cloud >/dev/null
@@ -16,6 +19,12 @@ if [[ " $* " == *" --config "* || -n "${SPACEMGM_CONFIG:-}" || -f "$user_config"
   exec ./build/bin/spacemgm "$@"
 fi
 
+runs="${XDG_STATE_HOME:-$HOME/.local/state}/spacemgm/runs"
+run="$runs/$(date +%Y%m%d-%H%M%S)-$$"
+mkdir -p "$run"
+# Older runs beyond the newest ten are removed.
+ls -1d "$runs"/*/ 2>/dev/null | sort | head -n -10 | xargs -r rm -rf
+
 work="$(mktemp -d)"
 cloud_pid=""
 cleanup() {
@@ -24,11 +33,14 @@ cleanup() {
 }
 trap cleanup EXIT
 ./build/bin/spacemgm-cloud --port 0 --fixture cloud/fixtures/sample.json \
-  --state "$work/account.json" --write-config "$work/spacemgm.json" >"$work/cloud.log" 2>&1 &
+  --state "$work/account.json" --write-config "$work/spacemgm.json" >"$run/cloud.log" 2>&1 &
 cloud_pid=$!
 for _ in $(seq 1 100); do
-  grep -q '^ready' "$work/cloud.log" 2>/dev/null && break
-  kill -0 "$cloud_pid" 2>/dev/null || { cat "$work/cloud.log" >&2; exit 1; }
+  grep -q '^ready' "$run/cloud.log" 2>/dev/null && break
+  kill -0 "$cloud_pid" 2>/dev/null || { cat "$run/cloud.log" >&2; exit 1; }
   sleep 0.1
 done
-XDG_DATA_HOME="$work/data" ./build/bin/spacemgm "$@" --config "$work/spacemgm.json"
+status=0
+XDG_DATA_HOME="$run/data" ./build/bin/spacemgm "$@" --config "$work/spacemgm.json" || status=$?
+echo "run.sh: logs of this run: $run (cloud.log, data/spacemgm/log/)" >&2
+exit "$status"

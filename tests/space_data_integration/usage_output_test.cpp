@@ -142,7 +142,7 @@ TEST(UsageOutput, EmptyAccountShowsNoDataForEveryCategory)
     const ProgramRun run = RunUsage(cloud, "");
     ASSERT_EQ(run.exitCode, 0) << run.output;
     const auto lines = Lines(run.output);
-    ASSERT_EQ(lines.size(), 23u) << run.output;
+    ASSERT_EQ(lines.size(), 22u) << run.output;
     EXPECT_EQ(lines[0], "Used 0 B of 5 GB");
     EXPECT_EQ(lines[7], "Categories:");
     const std::vector<std::string> categories(lines.begin() + 8, lines.begin() + 20);
