@@ -1,14 +1,19 @@
 #include "host/curl_connection_cache.h"
 
 #include <array>
+#include <atomic>
+#include <map>
+#include <memory>
 #include <mutex>
 #include <stdexcept>
+#include <vector>
 
 namespace host {
 namespace {
 
 // libcurl asks for a lock per kind of shared data; one mutex per kind keeps a
-// DNS lookup from waiting on a connection hand-over.
+// DNS lookup from waiting on a connection hand-over. Every cache the process
+// makes uses the same mutexes: only one is in use at a time.
 std::array<std::mutex, CURL_LOCK_DATA_LAST> shareLocks;
 
 void LockShare(CURL*, curl_lock_data data, curl_lock_access, void*)
@@ -21,31 +26,147 @@ void UnlockShare(CURL*, curl_lock_data data, void*)
     shareLocks.at(static_cast<size_t>(data)).unlock();
 }
 
-CURLSH* CreateShare()
+struct StoreDeleter
 {
-    if (curl_global_init(CURL_GLOBAL_DEFAULT) != CURLE_OK) {
-        throw std::runtime_error("libcurl could not be initialised");
+    void operator()(X509_STORE* store) const { X509_STORE_free(store); }
+};
+using StoreHandle = std::unique_ptr<X509_STORE, StoreDeleter>;
+
+// The paths libcurl would verify with when given no CA file.
+void DefaultCaPaths(std::string& bundle, std::string& folder)
+{
+    CURL* probe = curl_easy_init();
+    char* text = nullptr;
+    if (probe != nullptr && curl_easy_getinfo(probe, CURLINFO_CAINFO, &text) == CURLE_OK && text != nullptr) {
+        bundle = text;
     }
-    CURLSH* share = curl_share_init();
-    if (share == nullptr) {
-        throw std::runtime_error("libcurl share handle could not be created");
+    text = nullptr;
+    if (probe != nullptr && curl_easy_getinfo(probe, CURLINFO_CAPATH, &text) == CURLE_OK && text != nullptr) {
+        folder = text;
     }
-    curl_share_setopt(share, CURLSHOPT_LOCKFUNC, LockShare);
-    curl_share_setopt(share, CURLSHOPT_UNLOCKFUNC, UnlockShare);
-    curl_share_setopt(share, CURLSHOPT_SHARE, CURL_LOCK_DATA_CONNECT);
-    curl_share_setopt(share, CURLSHOPT_SHARE, CURL_LOCK_DATA_SSL_SESSION);
-    curl_share_setopt(share, CURLSHOPT_SHARE, CURL_LOCK_DATA_DNS);
-    return share;
+    curl_easy_cleanup(probe);
+}
+
+StoreHandle LoadStore(const std::string& caFile)
+{
+    StoreHandle store(X509_STORE_new());
+    if (!store) {
+        return nullptr;
+    }
+    if (!caFile.empty()) {
+        return X509_STORE_load_file(store.get(), caFile.c_str()) == 1 ? std::move(store) : nullptr;
+    }
+    std::string bundle, folder;
+    DefaultCaPaths(bundle, folder);
+    const bool fromBundle = !bundle.empty() && X509_STORE_load_file(store.get(), bundle.c_str()) == 1;
+    // A folder of hashed certificates is read lazily, one file per issuer asked for.
+    const bool fromFolder = !folder.empty() && X509_STORE_load_path(store.get(), folder.c_str()) == 1;
+    return fromBundle || fromFolder ? std::move(store) : nullptr;
+}
+
+// One cache: the libcurl share and the CA stores its connections verify with.
+struct ConnectionCache
+{
+    ConnectionCache()
+    {
+        static const bool initialised = curl_global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
+        if (!initialised) {
+            throw std::runtime_error("libcurl could not be initialised");
+        }
+        share = curl_share_init();
+        if (share == nullptr) {
+            throw std::runtime_error("libcurl share handle could not be created");
+        }
+        curl_share_setopt(share, CURLSHOPT_LOCKFUNC, LockShare);
+        curl_share_setopt(share, CURLSHOPT_UNLOCKFUNC, UnlockShare);
+        curl_share_setopt(share, CURLSHOPT_SHARE, CURL_LOCK_DATA_CONNECT);
+        curl_share_setopt(share, CURLSHOPT_SHARE, CURL_LOCK_DATA_SSL_SESSION);
+        curl_share_setopt(share, CURLSHOPT_SHARE, CURL_LOCK_DATA_DNS);
+    }
+
+    CURLSH* share = nullptr;
+    std::mutex storesMutex;
+    // A file that could not be loaded is kept as null, so that it is not
+    // parsed again for every connection.
+    std::map<std::string, StoreHandle> stores;
+};
+
+// Every cache the process made, the current one last. Replaced caches stay
+// until they can be cleaned up: a thread's easy handle stays attached to the
+// share of its last exchange, so an old share is freed only once every such
+// handle has moved on or ended. The registry itself is never destroyed:
+// detached load threads may still be sending while static destructors run.
+struct CacheRegistry
+{
+    std::mutex mutex;
+    std::atomic<ConnectionCache*> current{nullptr};
+    std::vector<std::unique_ptr<ConnectionCache>> caches;
+
+    // Called with `mutex` held.
+    void Add(std::unique_ptr<ConnectionCache> cache)
+    {
+        current.store(cache.get(), std::memory_order_release);
+        caches.push_back(std::move(cache));
+    }
+
+    // Called with `mutex` held.
+    void CleanUpReplaced()
+    {
+        auto replaced = caches.begin();
+        while (replaced != caches.end()) {
+            const bool isCurrent = replaced->get() == current.load(std::memory_order_relaxed);
+            if (!isCurrent && curl_share_cleanup((*replaced)->share) == CURLSHE_OK) {
+                replaced = caches.erase(replaced);
+            } else {
+                ++replaced;
+            }
+        }
+    }
+};
+
+CacheRegistry& Registry()
+{
+    static CacheRegistry* const registry = std::make_unique<CacheRegistry>().release();
+    return *registry;
+}
+
+ConnectionCache& CurrentCache()
+{
+    CacheRegistry& registry = Registry();
+    if (ConnectionCache* cache = registry.current.load(std::memory_order_acquire)) {
+        return *cache;
+    }
+    std::lock_guard<std::mutex> lock(registry.mutex);
+    if (registry.current.load(std::memory_order_relaxed) == nullptr) {
+        registry.Add(std::make_unique<ConnectionCache>());
+    }
+    return *registry.current.load(std::memory_order_relaxed);
 }
 
 } // namespace
 
 CURLSH* SharedConnectionCache()
 {
-    // A function-local static is initialised exactly once even when the first
-    // requests start on several threads at the same moment.
-    static CURLSH* const share = CreateShare();
-    return share;
+    return CurrentCache().share;
+}
+
+X509_STORE* SharedCaStore(const std::string& caFile)
+{
+    ConnectionCache& cache = CurrentCache();
+    std::lock_guard<std::mutex> lock(cache.storesMutex);
+    auto found = cache.stores.find(caFile);
+    if (found == cache.stores.end()) {
+        found = cache.stores.emplace(caFile, LoadStore(caFile)).first;
+    }
+    return found->second.get();
+}
+
+void ResetConnectionCache()
+{
+    CacheRegistry& registry = Registry();
+    std::lock_guard<std::mutex> lock(registry.mutex);
+    registry.Add(std::make_unique<ConnectionCache>());
+    registry.CleanUpReplaced();
 }
 
 } // namespace host

@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include <openssl/ssl.h>
+
 #include "host/curl_connection_cache.h"
 #include "host/exchange_observer.h"
 
@@ -100,6 +102,14 @@ size_t CollectHeader(char* data, size_t size, size_t count, void* target)
     return size * count;
 }
 
+// The context takes a reference of its own: the store outlives it even when
+// the cache is reset meanwhile.
+CURLcode UseSharedCaStore(CURL*, void* sslContext, void* store)
+{
+    SSL_CTX_set1_cert_store(static_cast<SSL_CTX*>(sslContext), static_cast<X509_STORE*>(store));
+    return CURLE_OK;
+}
+
 // What every exchange sets apart from its headers and body.
 void SetTransferOptions(CURL* handle, const CurlExchangeSpec& ex)
 {
@@ -119,7 +129,14 @@ void SetTransferOptions(CURL* handle, const CurlExchangeSpec& ex)
                      ex.httpVersion == 2 ? CURL_HTTP_VERSION_2TLS : CURL_HTTP_VERSION_1_1);
     curl_easy_setopt(handle, CURLOPT_SSL_VERIFYPEER, 1L);
     curl_easy_setopt(handle, CURLOPT_SSL_VERIFYHOST, 2L);
-    if (!ex.caFile.empty()) {
+    if (X509_STORE* store = SharedCaStore(ex.caFile)) {
+        // libcurl loads nothing itself; every TLS context it makes gets the
+        // cache's store instead.
+        curl_easy_setopt(handle, CURLOPT_CAINFO, nullptr);
+        curl_easy_setopt(handle, CURLOPT_CAPATH, nullptr);
+        curl_easy_setopt(handle, CURLOPT_SSL_CTX_FUNCTION, UseSharedCaStore);
+        curl_easy_setopt(handle, CURLOPT_SSL_CTX_DATA, store);
+    } else if (!ex.caFile.empty()) {
         curl_easy_setopt(handle, CURLOPT_CAINFO, ex.caFile.c_str());
     }
     const long timeout = ex.timeoutSeconds;
@@ -169,13 +186,17 @@ CURLcode Transfer(const CurlExchangeSpec& ex, CResponseInfo& response, AnyHttpHe
     // internal state (a wake-up socket pair among it) on every exchange,
     // which costs more than a loopback round trip. The options are reset
     // after each use, so every exchange starts from a clean handle;
-    // connections stay in the shared cache either way.
+    // connections stay in the shared cache either way. A handle made for an
+    // earlier cache is made anew: it holds state of its own (a cached CA
+    // store) that a reset cache should not keep.
     thread_local EasyHandle curl;
-    if (!curl) {
+    thread_local CURLSH* handleCache = nullptr;
+    if (!curl || handleCache != share) {
         curl.reset(curl_easy_init());
         if (!curl) {
             throw std::runtime_error("libcurl easy handle could not be created");
         }
+        handleCache = share;
     }
     CURL* handle = curl.get();
     // The options point into this call's locals; none may outlive it.

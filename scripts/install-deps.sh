@@ -6,7 +6,7 @@ set -euo pipefail
 
 packages=(
   build-essential cmake ninja-build pkg-config git
-  libcurl4-openssl-dev libjsoncpp-dev libssl-dev libcpp-httplib-dev
+  libcurl4-openssl-dev libjsoncpp-dev libssl-dev libcpp-httplib-dev ca-certificates
   libpugixml-dev libcairo2-dev libpango1.0-dev librsvg2-dev libsdl2-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   clang libclang-rt-14-dev clang-format-14
