@@ -102,6 +102,13 @@ size_t CollectHeader(char* data, size_t size, size_t count, void* target)
     return size * count;
 }
 
+// Only a TLS connection needs a CA store; loading one for plain HTTP would
+// cost as much as it does for the first TLS connection.
+bool IsHttps(const std::string& url)
+{
+    return url.size() > 8 && curl_strnequal(url.c_str(), "https://", 8);
+}
+
 // The context takes a reference of its own: the store outlives it even when
 // the cache is reset meanwhile.
 CURLcode UseSharedCaStore(CURL*, void* sslContext, void* store)
@@ -129,7 +136,8 @@ void SetTransferOptions(CURL* handle, const CurlExchangeSpec& ex)
                      ex.httpVersion == 2 ? CURL_HTTP_VERSION_2TLS : CURL_HTTP_VERSION_1_1);
     curl_easy_setopt(handle, CURLOPT_SSL_VERIFYPEER, 1L);
     curl_easy_setopt(handle, CURLOPT_SSL_VERIFYHOST, 2L);
-    if (X509_STORE* store = SharedCaStore(ex.caFile)) {
+    X509_STORE* store = IsHttps(ex.url) ? SharedCaStore(ex.caFile) : nullptr;
+    if (store != nullptr) {
         // libcurl loads nothing itself; every TLS context it makes gets the
         // cache's store instead.
         curl_easy_setopt(handle, CURLOPT_CAINFO, nullptr);

@@ -3,6 +3,7 @@
 // and twelve such queries at once over TLS, through the module's shared
 // connection cache against twelve fresh connections (the ratio is reported).
 // Both sides send the module's header set and form and read the whole reply.
+// Each comparison runs its two sides in turns (bench/support/interleaved_pair.h).
 #include <benchmark/benchmark.h>
 
 #include <atomic>
@@ -13,6 +14,7 @@
 
 #include <curl/curl.h>
 
+#include "bench/support/interleaved_pair.h"
 #include "cloud_emulator.h"
 #include "cloud_wire_client.h"
 #include "foundation/advanced_enum.h"
@@ -109,46 +111,28 @@ private:
     curl_slist* headers_ = nullptr;
 };
 
-void ReportFailures(benchmark::State& state, int64_t failures)
-{
-    state.counters["failures"] = static_cast<double>(failures);
-    if (failures > 0) {
-        state.SkipWithError("some requests failed");
-    }
-}
-
-void BM_RunRequestRoundTrip(benchmark::State& state)
-{
-    Emulator(false);
-    int64_t failures = 0;
-    for (auto _ : state) {
-        failures += QueryThroughTheModule() ? 0 : 1;
-    }
-    ReportFailures(state, failures);
-}
-BENCHMARK(BM_RunRequestRoundTrip)->Unit(benchmark::kMicrosecond)->MinTime(2.0);
-
-void BM_BareCurlRoundTrip(benchmark::State& state)
+void BM_RunRequestAgainstBareCurl(benchmark::State& state)
 {
     const BareQuotaRequest request(Emulator(false));
     std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> curl(curl_easy_init(), curl_easy_cleanup);
     std::string body;
     request.Prepare(curl.get(), body);
-    int64_t failures = 0;
-    for (auto _ : state) {
-        body.clear();
-        failures += BareQuotaRequest::Perform(curl.get()) ? 0 : 1;
-        benchmark::DoNotOptimize(body.data());
-    }
-    ReportFailures(state, failures);
+    bench_support::RunInterleaved(
+        state, "run_request", [] { return QueryThroughTheModule(); }, "bare_curl",
+        [&] {
+            body.clear();
+            const bool ok = BareQuotaRequest::Perform(curl.get());
+            benchmark::DoNotOptimize(body.data());
+            return ok;
+        });
 }
-BENCHMARK(BM_BareCurlRoundTrip)->Unit(benchmark::kMicrosecond)->MinTime(2.0);
+BENCHMARK(BM_RunRequestAgainstBareCurl)->UseManualTime()->Unit(benchmark::kMicrosecond)->MinTime(4.0);
 
-// Twelve threads start together and each sends one query; an iteration ends
-// when all twelve have their answer.
-template <class Send> int64_t RunTwelveAtOnce(const Send& send)
+// Twelve threads start together and each sends one query; a call ends when
+// all twelve have their answer.
+template <class Send> bool RunTwelveAtOnce(const Send& send)
 {
-    std::atomic<int64_t> failures{0};
+    std::atomic<int> failures{0};
     std::vector<std::thread> workers;
     workers.reserve(kConcurrentRequests);
     for (int i = 0; i < kConcurrentRequests; ++i) {
@@ -157,40 +141,29 @@ template <class Send> int64_t RunTwelveAtOnce(const Send& send)
     for (auto& worker : workers) {
         worker.join();
     }
-    return failures.load();
+    return failures.load() == 0;
 }
 
-void BM_TwelveTlsRequestsThroughTheSharedCache(benchmark::State& state)
-{
-    Emulator(true);
-    int64_t failures = 0;
-    for (auto _ : state) {
-        failures += RunTwelveAtOnce(QueryThroughTheModule);
-    }
-    ReportFailures(state, failures);
-}
-BENCHMARK(BM_TwelveTlsRequestsThroughTheSharedCache)
-    ->Unit(benchmark::kMillisecond)
-    ->MinTime(3.0)
-    ->UseRealTime();
-
-void BM_TwelveTlsRequestsOnFreshConnections(benchmark::State& state)
+void BM_TwelveTlsRequestsSharedCacheAgainstFreshConnections(benchmark::State& state)
 {
     const BareQuotaRequest request(Emulator(true));
-    int64_t failures = 0;
-    for (auto _ : state) {
-        failures += RunTwelveAtOnce([&request] {
-            std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> curl(curl_easy_init(), curl_easy_cleanup);
-            std::string body;
-            request.Prepare(curl.get(), body);
-            curl_easy_setopt(curl.get(), CURLOPT_FRESH_CONNECT, 1L);
-            curl_easy_setopt(curl.get(), CURLOPT_FORBID_REUSE, 1L);
-            return BareQuotaRequest::Perform(curl.get());
+    bench_support::RunInterleaved(
+        state, "shared_cache", [] { return RunTwelveAtOnce(QueryThroughTheModule); }, "fresh_connections",
+        [&request] {
+            return RunTwelveAtOnce([&request] {
+                std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> curl(curl_easy_init(), curl_easy_cleanup);
+                std::string body;
+                request.Prepare(curl.get(), body);
+                curl_easy_setopt(curl.get(), CURLOPT_FRESH_CONNECT, 1L);
+                curl_easy_setopt(curl.get(), CURLOPT_FORBID_REUSE, 1L);
+                return BareQuotaRequest::Perform(curl.get());
+            });
         });
-    }
-    ReportFailures(state, failures);
 }
-BENCHMARK(BM_TwelveTlsRequestsOnFreshConnections)->Unit(benchmark::kMillisecond)->MinTime(3.0)->UseRealTime();
+BENCHMARK(BM_TwelveTlsRequestsSharedCacheAgainstFreshConnections)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond)
+    ->MinTime(6.0);
 
 } // namespace
 
