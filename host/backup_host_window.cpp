@@ -52,8 +52,8 @@ public:
         thread_.join();
     }
 
-    HWND window_ = nullptr;
-    DWORD threadId_ = 0;
+    HWND Window() const { return window_; }
+    DWORD ThreadId() const { return threadId_; }
 
 private:
     void Run(std::promise<std::pair<HWND, DWORD>>& ready)
@@ -96,6 +96,8 @@ private:
     }
 
     BackupDeleter deleter_;
+    HWND window_ = nullptr;
+    DWORD threadId_ = 0;
     std::thread thread_;
 };
 
@@ -107,12 +109,12 @@ BackupHostWindow::~BackupHostWindow() = default;
 
 HWND BackupHostWindow::Window() const
 {
-    return impl_->window_;
+    return impl_->Window();
 }
 
 DWORD BackupHostWindow::ThreadId() const
 {
-    return impl_->threadId_;
+    return impl_->ThreadId();
 }
 
 } // namespace host
