@@ -21,7 +21,8 @@ TEST(QuotaReply, ReadsEveryGroup)
 {
     NS::Drive::UserSpaceInfo info;
     ASSERT_TRUE(host::ParseQuotaReply(
-        R"({"retCode":0,"used":60,"total":100,"backup":10,"drive":20,"photos":15,"other":5,"family":10})", info));
+        R"({"retCode":0,"used":60,"total":100,"backup":10,"drive":20,"photos":15,"other":5,"family":10})",
+        info));
     EXPECT_EQ(info.used, 60u);
     EXPECT_EQ(info.total, 100u);
     EXPECT_EQ(info.backup, 10u);
