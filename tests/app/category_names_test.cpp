@@ -10,7 +10,7 @@
 TEST(CategoryTexts, EnglishNamesAreTheWindowsTexts)
 {
     const app::CategoryTexts texts(SPACEMGM_SOURCE_DIR, "en-US");
-    EXPECT_EQ(texts.NameOf(Phone), "Call history");
+    EXPECT_EQ(texts.NameOf(Phone), "Call records");
     EXPECT_EQ(texts.NameOf(Message), "Messages");
     EXPECT_EQ(texts.NameOf(CloudBackUp), "Cloud backup");
     EXPECT_EQ(texts.NameOf(Wlan), "Wi-Fi networks");
@@ -41,7 +41,7 @@ TEST(CategoryTexts, AnotherLanguageGivesItsOwnTexts)
 TEST(CategoryTexts, AnUnknownLanguageFallsBackToEnglish)
 {
     const app::CategoryTexts texts(SPACEMGM_SOURCE_DIR, "xx-XX");
-    EXPECT_EQ(texts.NameOf(Phone), "Call history");
+    EXPECT_EQ(texts.NameOf(Phone), "Call records");
 }
 
 TEST(CategoryTexts, ALanguageThatIsAPathIsNotFollowed)

@@ -77,7 +77,7 @@ TEST(UsageText, GroupsInWordsAndEveryCategoryWithNoDataForThoseWithoutARow)
         "  Messages: 12 items",
         "  Gallery: 2.00 KB",
         "  Wi-Fi networks: no data",
-        "  Call history: no data",
+        "  Call records: no data",
         "  Browser data: no data",
         "  Calendar: no data",
         "  Contacts: no data",

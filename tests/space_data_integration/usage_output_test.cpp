@@ -81,7 +81,7 @@ TEST(UsageOutput, SampleAccountLineByLine)
         "  Recordings: 1.24 MB, 6 items",
         "  Notes: 273.64 KB, 57 items",
         "  Messages: 3621 items",
-        "  Call history: 1029 items",
+        "  Call records: 1029 items",
         "  Contacts: 812 items",
         "  Browser data: 354 items",
         "  Calendar: 152 items",
@@ -147,7 +147,7 @@ TEST(UsageOutput, EmptyAccountShowsNoDataForEveryCategory)
     EXPECT_EQ(lines[7], "Categories:");
     const std::vector<std::string> categories(lines.begin() + 8, lines.begin() + 20);
     const std::vector<std::string> expected = {
-        "  Wi-Fi networks: no data", "  Call history: no data", "  Browser data: no data",
+        "  Wi-Fi networks: no data", "  Call records: no data", "  Browser data: no data",
         "  Messages: no data",       "  Calendar: no data",     "  Contacts: no data",
         "  Cloud backup: no data",   "  Gallery: no data",      "  Cloud drive: no data",
         "  Notes: no data",          "  Recordings: no data",   "  Spam & blocked: no data",
