@@ -25,35 +25,38 @@ bool MemoryAccountStore::Persist(std::string& error)
 {
     if (statePath_.empty())
         return true;
-    return WriteFileAtomically(statePath_, WriteStyledJson(AccountToJson(*Snapshot())), error);
+    return WriteFileAtomically(statePath_, WriteStyledJson(AccountToJson(*Snapshot())), kOwnerOnly, error);
 }
 
 // Called with mutex_ held: the write happens before the next change can
-// start, so the file on disk never runs ahead of or behind the replies.
-void MemoryAccountStore::Commit(std::shared_ptr<AccountData> next)
+// start, and the account changes only once it is on disk, so the replies
+// never acknowledge what a restart would not bring back.
+std::string MemoryAccountStore::Commit(std::shared_ptr<AccountData> next)
 {
-    current_ = std::move(next);
-    if (statePath_.empty())
-        return;
     std::string error;
-    if (!WriteFileAtomically(statePath_, WriteStyledJson(AccountToJson(*current_)), error))
+    if (!statePath_.empty() &&
+        !WriteFileAtomically(statePath_, WriteStyledJson(AccountToJson(*next)), kOwnerOnly, error)) {
         std::cerr << "spacemgm-cloud: cannot write the state: " << error << std::endl;
+        return error.empty() ? "the state file cannot be written" : error;
+    }
+    current_ = std::move(next);
+    return "";
 }
 
-bool MemoryAccountStore::DeleteDeviceBackup(const std::string& deviceId)
+ChangeOutcome MemoryAccountStore::DeleteDeviceBackup(const std::string& deviceId)
 {
     std::lock_guard<std::mutex> lock(mutex_);
     auto next = std::make_shared<AccountData>(*current_);
     auto it = std::find_if(next->backups.begin(), next->backups.end(),
                            [&](const BackupOwner& owner) { return owner.device.deviceId == deviceId; });
     if (it == next->backups.end())
-        return false;
+        return {};
     next->backups.erase(it);
-    Commit(std::move(next));
-    return true;
+    return {true, Commit(std::move(next))};
 }
 
-bool MemoryAccountStore::ClearMessages(const std::string& kind, const std::string& deviceId)
+ChangeOutcome MemoryAccountStore::ClearMessages(const std::vector<std::string>& kinds,
+                                                const std::string& deviceId)
 {
     std::lock_guard<std::mutex> lock(mutex_);
     auto next = std::make_shared<AccountData>(*current_);
@@ -62,14 +65,16 @@ bool MemoryAccountStore::ClearMessages(const std::string& kind, const std::strin
         if (!deviceId.empty() && device.device.deviceId != deviceId)
             continue;
         found = true;
-        if (kind == "sms")
-            device.sms = 0;
-        else
-            device.callLog = 0;
+        for (const auto& kind : kinds) {
+            if (kind == "sms")
+                device.sms = 0;
+            else
+                device.callLog = 0;
+        }
     }
-    if (found)
-        Commit(std::move(next));
-    return found;
+    if (!found)
+        return {};
+    return {true, Commit(std::move(next))};
 }
 
 RemoveOutcome MemoryAccountStore::RemoveFiles(const std::vector<std::string>& paths)
@@ -89,14 +94,16 @@ RemoveOutcome MemoryAccountStore::RemoveFiles(const std::vector<std::string>& pa
         }
     }
     if (!outcome.removed.empty())
-        Commit(std::move(next));
+        outcome.notKept = Commit(std::move(next));
+    if (!outcome.notKept.empty())
+        outcome.removed.clear();
     return outcome;
 }
 
-void MemoryAccountStore::Reset()
+ChangeOutcome MemoryAccountStore::Reset()
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    Commit(std::make_shared<AccountData>(fixture_));
+    return {true, Commit(std::make_shared<AccountData>(fixture_))};
 }
 
 } // namespace cloud

@@ -69,8 +69,11 @@ Reply DeleteDeviceBackup(const Call& call, const Json::Value& body)
         return reply;
     }
     // Deleting what is already gone is not an error: the outcome is the same.
-    bool removed = call.store.DeleteDeviceBackup(deviceId);
-    return JsonReply(Result(0, removed ? "DeleteDeviceBackupRecordRsp" : "no backup left for this device"));
+    const ChangeOutcome outcome = call.store.DeleteDeviceBackup(deviceId);
+    if (!outcome.notKept.empty())
+        return NotKept(call, outcome.notKept);
+    return JsonReply(
+        Result(0, outcome.found ? "DeleteDeviceBackupRecordRsp" : "no backup left for this device"));
 }
 
 // Counts are paged: a request without devices gets the first page and the
@@ -131,13 +134,14 @@ Reply DeleteMessages(const Call& call, const Json::Value& body)
             return Refused(call, 400, "typeList: expected \"sms\" or \"calllog\"");
         kinds.push_back(t.asString());
     }
-    for (const auto& kind : kinds) {
-        if (!call.store.ClearMessages(kind, body["devId"].asString())) {
-            Reply reply = JsonReply(Result(2, "unknown devId"));
-            reply.refusal = "devId: unknown device";
-            return reply;
-        }
+    const ChangeOutcome outcome = call.store.ClearMessages(kinds, body["devId"].asString());
+    if (!outcome.found) {
+        Reply reply = JsonReply(Result(2, "unknown devId"));
+        reply.refusal = "devId: unknown device";
+        return reply;
     }
+    if (!outcome.notKept.empty())
+        return NotKept(call, outcome.notKept);
     return JsonReply(Result(0, "DeleteBackupRsp"));
 }
 

@@ -1,6 +1,6 @@
 #pragma once
-// The emulator: the route table behind the header checks and the fault
-// rules, the admin endpoints under /_admin, and the listening socket.
+// The emulator: the listening socket, plain or TLS, in front of the
+// dispatcher that serves the route table.
 #include <atomic>
 #include <memory>
 #include <string>
@@ -8,10 +8,9 @@
 #include <httplib.h>
 
 #include "account_store.h"
+#include "dispatcher.h"
 #include "faults.h"
 #include "options.h"
-#include "request_log.h"
-#include "routes.h"
 
 namespace cloud {
 
@@ -27,25 +26,21 @@ public:
     std::string BaseUrl() const;
     // The URL the host configuration gives each service.
     std::string ServiceUrl(const std::string& service) const;
+    // The CA certificate's file with --tls, as an absolute path.
     std::string CaFile() const { return caFile_; }
     // Serves until Stop(); returns false if the server failed.
     bool Run();
     void Stop();
 
 private:
-    void Dispatch(const httplib::Request& req, httplib::Response& res);
-    void Admin(const httplib::Request& req, httplib::Response& res);
-    void Send(const Reply& reply, httplib::Response& res);
-    bool SleepUnlessStopping(int milliseconds) const;
+    bool MakeServer(std::string& error);
+    std::string CaFileFor() const;
 
     Options options_;
-    std::unique_ptr<MemoryAccountStore> store_;
-    FaultTable& faults_;
-    RequestLog log_;
+    Dispatcher dispatcher_;
     std::unique_ptr<httplib::Server> server_;
     std::string caFile_;
     int port_ = 0;
-    std::atomic<bool> stopping_{false};
     std::atomic<bool> runReturned_{false};
 };
 

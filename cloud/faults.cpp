@@ -2,6 +2,8 @@
 
 #include <map>
 
+#include "routes.h"
+
 namespace cloud {
 
 namespace {
@@ -41,26 +43,24 @@ bool ReadInt(const Json::Value& v, const char* key, int low, int high, int& out,
     return true;
 }
 
-} // namespace
-
-std::optional<FaultRule> ParseFaultRule(const Json::Value& v, std::string& error)
+bool OnlyKnownKeys(const Json::Value& v, std::string& error)
 {
     static const char* known[] = {"id",    "service", "endpoint",  "bodyContains", "probability", "everyNth",
                                   "limit", "kind",    "latencyMs", "status",       "body",        "hangMs"};
-    if (!v.isObject()) {
-        error = "a rule must be an object";
-        return std::nullopt;
-    }
     for (const auto& name : v.getMemberNames()) {
         bool ok = false;
         for (const char* k : known)
             ok = ok || name == k;
         if (!ok) {
             error = "unknown key \"" + name + "\"";
-            return std::nullopt;
+            return false;
         }
     }
-    FaultRule rule;
+    return true;
+}
+
+bool ReadTargets(const Json::Value& v, FaultRule& rule, std::string& error)
+{
     for (auto [key, field] : {std::pair<const char*, std::string*>{"id", &rule.id},
                               {"service", &rule.service},
                               {"endpoint", &rule.endpoint},
@@ -68,61 +68,116 @@ std::optional<FaultRule> ParseFaultRule(const Json::Value& v, std::string& error
         if (v.isMember(key)) {
             if (!v[key].isString()) {
                 error = std::string("\"") + key + "\" must be a string";
-                return std::nullopt;
+                return false;
             }
             *field = v[key].asString();
         }
     }
+    error = FaultTargetProblem(rule.service, rule.endpoint);
+    return error.empty();
+}
+
+bool ReadKind(const Json::Value& v, FaultRule& rule, std::string& error)
+{
     if (!v.isMember("kind") || !v["kind"].isString() || !KindNames().count(v["kind"].asString())) {
         error = "\"kind\" must be one of latency, status, empty, emptyArray, notJson, wrongTypes, truncated, "
                 "cut, hang";
-        return std::nullopt;
+        return false;
     }
     rule.kind = KindNames().at(v["kind"].asString());
+    return true;
+}
+
+bool ReadShare(const Json::Value& v, FaultRule& rule, std::string& error)
+{
     if (v.isMember("probability")) {
-        if (!v["probability"].isNumeric() || v["probability"].asDouble() < 0 ||
-            v["probability"].asDouble() > 1) {
+        const Json::Value& p = v["probability"];
+        if (!p.isNumeric() || p.asDouble() < 0 || p.asDouble() > 1) {
             error = "\"probability\" must be a number from 0 to 1";
-            return std::nullopt;
+            return false;
         }
-        rule.probability = v["probability"].asDouble();
+        rule.probability = p.asDouble();
     }
-    if (!ReadInt(v, "everyNth", 0, 1000000, rule.everyNth, error) ||
-        !ReadInt(v, "limit", 0, 1000000000, rule.limit, error) ||
-        !ReadInt(v, "status", 100, 599, rule.status, error) ||
-        !ReadInt(v, "hangMs", 0, kHangLimitMs, rule.hangMs, error))
-        return std::nullopt;
-    if (v.isMember("latencyMs")) {
-        const Json::Value& l = v["latencyMs"];
-        if (l.isInt() && l.asInt() >= 0 && l.asInt() <= 60000) {
-            rule.latencyMinMs = rule.latencyMaxMs = l.asInt();
-        } else if (l.isArray() && l.size() == 2 && l[0].isInt() && l[1].isInt() && l[0].asInt() >= 0 &&
-                   l[0].asInt() <= l[1].asInt() && l[1].asInt() <= 60000) {
-            rule.latencyMinMs = l[0].asInt();
-            rule.latencyMaxMs = l[1].asInt();
-        } else {
-            error = "\"latencyMs\" must be milliseconds (up to 60000) or a range [min, max]";
-            return std::nullopt;
-        }
+    return ReadInt(v, "everyNth", 0, 1000000, rule.everyNth, error) &&
+           ReadInt(v, "limit", 0, 1000000000, rule.limit, error);
+}
+
+bool ReadLatency(const Json::Value& v, FaultRule& rule, std::string& error)
+{
+    if (!v.isMember("latencyMs"))
+        return true;
+    const Json::Value& l = v["latencyMs"];
+    if (l.isInt() && l.asInt() >= 0 && l.asInt() <= 60000) {
+        rule.latencyMinMs = rule.latencyMaxMs = l.asInt();
+    } else if (l.isArray() && l.size() == 2 && l[0].isInt() && l[1].isInt() && l[0].asInt() >= 0 &&
+               l[0].asInt() <= l[1].asInt() && l[1].asInt() <= 60000) {
+        rule.latencyMinMs = l[0].asInt();
+        rule.latencyMaxMs = l[1].asInt();
+    } else {
+        error = "\"latencyMs\" must be milliseconds (up to 60000) or a range [min, max]";
+        return false;
     }
+    return true;
+}
+
+bool ReadBody(const Json::Value& v, FaultRule& rule, std::string& error)
+{
     if (v.isMember("body")) {
         if (!v["body"].isString()) {
             error = "\"body\" must be a string";
-            return std::nullopt;
+            return false;
         }
         rule.body = v["body"].asString();
     }
+    return true;
+}
+
+// What each kind needs besides its targets.
+bool Complete(const Json::Value& v, FaultRule& rule, std::string& error)
+{
     if (rule.kind == FaultKind::Status && rule.status == 0) {
         error = "a status rule needs \"status\"";
-        return std::nullopt;
+        return false;
     }
     if (rule.kind == FaultKind::Latency && !v.isMember("latencyMs")) {
         error = "a latency rule needs \"latencyMs\"";
-        return std::nullopt;
+        return false;
     }
     if (rule.kind == FaultKind::Hang && rule.hangMs == 0)
         rule.hangMs = kHangLimitMs;
+    return true;
+}
+
+} // namespace
+
+std::optional<FaultRule> ParseFaultRule(const Json::Value& v, std::string& error)
+{
+    if (!v.isObject()) {
+        error = "a rule must be an object";
+        return std::nullopt;
+    }
+    FaultRule rule;
+    if (!OnlyKnownKeys(v, error) || !ReadTargets(v, rule, error) || !ReadKind(v, rule, error) ||
+        !ReadShare(v, rule, error) || !ReadInt(v, "status", 100, 599, rule.status, error) ||
+        !ReadInt(v, "hangMs", 0, kHangLimitMs, rule.hangMs, error) || !ReadLatency(v, rule, error) ||
+        !ReadBody(v, rule, error) || !Complete(v, rule, error))
+        return std::nullopt;
     return rule;
+}
+
+bool ParseFaultRules(const Json::Value& value, std::vector<FaultRule>& rules, std::string& why,
+                     Json::ArrayIndex& at)
+{
+    Json::Value list = value.isArray() ? value : Json::Value(Json::arrayValue);
+    if (!value.isArray())
+        list.append(value);
+    for (at = 0; at < list.size(); ++at) {
+        auto rule = ParseFaultRule(list[at], why);
+        if (!rule)
+            return false;
+        rules.push_back(*rule);
+    }
+    return true;
 }
 
 Json::Value FaultRuleToJson(const FaultRule& rule)

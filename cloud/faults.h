@@ -47,7 +47,13 @@ struct FaultRule
     uint64_t hits = 0;
 };
 
+// A rule must name a known service and endpoint (or leave them empty): a
+// rule that can never fire is refused rather than silently kept.
 std::optional<FaultRule> ParseFaultRule(const Json::Value& value, std::string& error);
+// One rule, or an array of rules; none is taken unless every one is good.
+// On a bad rule, `at` is its index (0 for a single rule) and `why` the reason.
+bool ParseFaultRules(const Json::Value& value, std::vector<FaultRule>& rules, std::string& why,
+                     Json::ArrayIndex& at);
 Json::Value FaultRuleToJson(const FaultRule& rule);
 
 // What the fired rules ask of one request.

@@ -16,6 +16,8 @@ public:
 };
 
 AccountData LoadAccountFile(const std::string& path);
+// `file` names the text's source in a refusal.
+AccountData AccountFromText(const std::string& text, const std::string& file);
 AccountData AccountFromJson(const Json::Value& root, const std::string& file);
 Json::Value AccountToJson(const AccountData& account);
 

@@ -28,7 +28,7 @@ bool WriteHostConfig(const std::string& path, const Emulator& emulator, const Ac
     config["network"]["mode"] = "online";
     if (!emulator.CaFile().empty())
         config["caFile"] = emulator.CaFile();
-    return WriteFileAtomically(path, WriteStyledJson(config), error);
+    return WriteFileAtomically(path, WriteStyledJson(config), kOwnerOnly, error);
 }
 
 } // namespace cloud

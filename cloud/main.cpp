@@ -1,140 +1,104 @@
 // spacemgm-cloud: serves every cloud service the module calls, on loopback,
 // from an account fixture. See README.md.
 #include <csignal>
-#include <fstream>
 #include <iostream>
 #include <pthread.h>
-#include <sstream>
-#include <sys/stat.h>
 #include <thread>
 
 #include "emulator.h"
-#include "fixture.h"
 #include "host_config_writer.h"
-#include "wire_text.h"
+#include "startup.h"
 
 namespace {
 
-bool FileExists(const std::string& path)
+constexpr int kServedAndStopped = 0; // also after --help
+constexpr int kFailed = 1;
+constexpr int kBadInput = 2; // command line, fixture, state or faults file
+
+int Fail(int status, const std::string& message)
 {
-    struct stat info;
-    return ::stat(path.c_str(), &info) == 0;
+    std::cerr << "spacemgm-cloud: " << message << "\n";
+    return status;
 }
 
-bool LoadFaultRules(const Json::Value& rules, const std::string& where, cloud::FaultTable& table,
-                    std::string& error)
+bool AsksForHelp(int argc, char** argv)
 {
-    if (!rules.isArray()) {
-        error = where + ": must be an array of rules";
-        return false;
-    }
-    for (Json::ArrayIndex i = 0; i < rules.size(); ++i) {
-        std::string why;
-        auto rule = cloud::ParseFaultRule(rules[i], why);
-        if (!rule) {
-            error = where + "[" + std::to_string(i) + "]: " + why;
-            return false;
-        }
-        table.Add(*rule);
-    }
-    return true;
+    for (int i = 1; i < argc; ++i)
+        if (std::string(argv[i]) == "--help" || std::string(argv[i]) == "-h")
+            return true;
+    return false;
 }
 
-} // namespace
-
-int main(int argc, char** argv)
+// Signals are taken by one thread with sigwait, so the server threads
+// started later inherit the blocked mask and shutdown runs in order.
+sigset_t BlockStopSignals()
 {
-    for (int i = 1; i < argc; ++i) {
-        if (std::string(argv[i]) == "--help" || std::string(argv[i]) == "-h") {
-            std::cout << cloud::Help();
-            return 0;
-        }
-    }
-    cloud::Options options;
-    std::string error;
-    if (!cloud::ParseOptions(argc, argv, options, error)) {
-        std::cerr << "spacemgm-cloud: " << error << "\n" << cloud::Usage();
-        return 2;
-    }
-
-    // Signals are taken by one thread with sigwait, so the server threads
-    // started below inherit the blocked mask and shutdown runs in order.
     sigset_t stopSignals;
     sigemptyset(&stopSignals);
     sigaddset(&stopSignals, SIGINT);
     sigaddset(&stopSignals, SIGTERM);
     pthread_sigmask(SIG_BLOCK, &stopSignals, nullptr);
     std::signal(SIGPIPE, SIG_IGN);
+    return stopSignals;
+}
 
-    cloud::FaultTable faults;
-    std::unique_ptr<cloud::MemoryAccountStore> store;
-    try {
-        cloud::AccountData fixture = cloud::LoadAccountFile(options.fixture);
-        cloud::AccountData initial = fixture;
-        bool fromState = !options.state.empty() && FileExists(options.state);
-        if (fromState)
-            initial = cloud::LoadAccountFile(options.state);
-        if (!LoadFaultRules(fixture.faults, options.fixture + ": faults", faults, error)) {
-            std::cerr << "spacemgm-cloud: " << error << "\n";
-            return 2;
-        }
-        store = std::make_unique<cloud::MemoryAccountStore>(fixture, initial, options.state);
-        if (!fromState && !store->Persist(error)) {
-            std::cerr << "spacemgm-cloud: cannot write the state: " << error << "\n";
-            return 2;
-        }
-    } catch (const cloud::FixtureError& e) {
-        std::cerr << "spacemgm-cloud: " << e.what() << "\n";
-        return 2;
-    }
-    if (!options.faults.empty()) {
-        try {
-            std::ifstream in(options.faults);
-            std::stringstream text;
-            text << in.rdbuf();
-            std::string parseError;
-            auto rules = in ? cloud::ParseJson(text.str(), &parseError) : std::nullopt;
-            if (!rules) {
-                std::cerr << "spacemgm-cloud: " << options.faults << ": cannot be read as JSON\n";
-                return 2;
-            }
-            if (!LoadFaultRules(*rules, options.faults, faults, error)) {
-                std::cerr << "spacemgm-cloud: " << error << "\n";
-                return 2;
-            }
-        } catch (const std::exception& e) {
-            std::cerr << "spacemgm-cloud: " << options.faults << ": " << e.what() << "\n";
-            return 2;
-        }
-    }
-
-    auto account = store->Snapshot();
-    cloud::Emulator emulator(options, std::move(store), faults);
-    if (!emulator.Bind(error)) {
-        std::cerr << "spacemgm-cloud: " << error << "\n";
-        return 1;
-    }
-    if (!options.writeConfig.empty() &&
-        !cloud::WriteHostConfig(options.writeConfig, emulator, *account, error)) {
-        std::cerr << "spacemgm-cloud: cannot write the configuration: " << error << "\n";
-        return 1;
-    }
+// One line per service, the admin URL, the CA file, then "ready".
+void Announce(const cloud::Emulator& emulator)
+{
     for (const auto& profile : cloud::ServiceProfiles())
         std::cout << profile.name << " " << emulator.ServiceUrl(profile.name) << "\n";
     std::cout << "admin " << emulator.BaseUrl() << "/_admin\n";
     if (!emulator.CaFile().empty())
         std::cout << "caFile " << emulator.CaFile() << "\n";
     std::cout << "ready" << std::endl;
+}
 
+// Serves until SIGINT or SIGTERM; false when the server failed on its own.
+bool ServeUntilStopped(cloud::Emulator& emulator, const sigset_t& stopSignals)
+{
     std::thread signalWaiter([&emulator, stopSignals] {
         int signal = 0;
         sigwait(&stopSignals, &signal);
         if (signal != 0)
             emulator.Stop();
     });
-    bool served = emulator.Run();
+    const bool served = emulator.Run();
     // The server can also stop on its own (a failed listen); wake the waiter.
     pthread_kill(signalWaiter.native_handle(), SIGTERM);
     signalWaiter.join();
-    return served ? 0 : 1;
+    return served;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (AsksForHelp(argc, argv)) {
+        std::cout << cloud::Help();
+        return kServedAndStopped;
+    }
+    cloud::Options options;
+    std::string error;
+    if (!cloud::ParseOptions(argc, argv, options, error)) {
+        std::cerr << "spacemgm-cloud: " << error << "\n" << cloud::Usage();
+        return kBadInput;
+    }
+    const sigset_t stopSignals = BlockStopSignals();
+
+    cloud::FaultTable faults;
+    auto store = cloud::LoadAccount(options, faults, error);
+    if (!store)
+        return Fail(kBadInput, error);
+    if (!options.faults.empty() && !cloud::LoadFaultsFile(options.faults, faults, error))
+        return Fail(kBadInput, error);
+
+    const auto account = store->Snapshot();
+    cloud::Emulator emulator(options, std::move(store), faults);
+    if (!emulator.Bind(error))
+        return Fail(kBadInput, error);
+    if (!options.writeConfig.empty() &&
+        !cloud::WriteHostConfig(options.writeConfig, emulator, *account, error))
+        return Fail(kFailed, "cannot write the configuration: " + error);
+    Announce(emulator);
+    return ServeUntilStopped(emulator, stopSignals) ? kServedAndStopped : kFailed;
 }

@@ -56,10 +56,11 @@ std::vector<const NspFile*> FilesBelow(const AccountData& account, const std::st
     return out;
 }
 
+// The keys an operation's form must have, and may have.
 struct FormCheck
 {
-    std::set<std::string> required;
-    std::set<std::string> optional;
+    std::vector<std::string> required;
+    std::vector<std::string> optional;
 };
 
 // Refusal text, or empty when the form has exactly the expected keys and the
@@ -67,12 +68,8 @@ struct FormCheck
 std::string CheckForm(const FormBody& form, const FormCheck& check, const Session& session, int& status)
 {
     status = 400;
-    for (const auto& key : check.required)
-        if (!form.fields.count(key))
-            return "form: \"" + key + "\" missing";
-    for (const auto& [key, value] : form.fields)
-        if (!check.required.count(key) && !check.optional.count(key))
-            return "form: unexpected key \"" + key + "\"";
+    if (std::string problem = CheckFormKeys(form, check.required, check.optional); !problem.empty())
+        return problem;
     if (form.fields.at("access_token") != session.accessToken) {
         status = 401;
         return "form: access_token is not the session's token";
@@ -152,6 +149,8 @@ Reply RemoveFiles(const Call& call, const std::vector<std::string>& files)
             removable.push_back(path);
     }
     RemoveOutcome outcome = call.store.RemoveFiles(removable);
+    if (!outcome.notKept.empty())
+        return NotKept(call, outcome.notKept);
     for (const auto& file : outcome.removed)
         reply["successList"].append(FileInfo(file.path, "File", file.size, file.createTime, file.modifyTime));
     for (const auto& path : outcome.missing)
@@ -172,11 +171,11 @@ Reply HandleNspForm(const Call& call)
     const std::string op = svc->second;
     FormCheck check;
     if (op == "nsp.vfs.queryFolder" || op == "nsp.vfs.queryFile")
-        check = {{"nsp_svc", "access_token", "paths"}, {"cursor"}};
+        check = {{"access_token", "nsp_svc", "paths"}, {"cursor"}};
     else if (op == "nsp.vfs.getattr")
-        check = {{"nsp_svc", "access_token", "fields", "files"}, {}};
+        check = {{"access_token", "fields", "files", "nsp_svc"}, {}};
     else if (op == "nsp.vfs.rmfile")
-        check = {{"nsp_svc", "access_token", "files", "reserve"}, {}};
+        check = {{"access_token", "files", "nsp_svc", "reserve"}, {}};
     else
         return Refused(call, 400, "nsp_svc: unknown operation \"" + op + "\"");
 

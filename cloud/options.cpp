@@ -4,6 +4,79 @@
 
 namespace cloud {
 
+namespace {
+
+struct NumberOption
+{
+    const char* name;
+    int low;
+    int high;
+    int Options::*field;
+};
+
+struct TextOption
+{
+    const char* name;
+    std::string Options::*field;
+};
+
+const NumberOption kNumberOptions[] = {
+    {"--port", 0, 65535, &Options::port},
+    {"--threads", 2, 256, &Options::threads},
+    {"--start-delay-ms", 0, 60000, &Options::startDelayMs},
+};
+
+const TextOption kTextOptions[] = {
+    {"--fixture", &Options::fixture}, {"--state", &Options::state},
+    {"--faults", &Options::faults},   {"--write-config", &Options::writeConfig},
+    {"--ca-file", &Options::caFile},
+};
+
+bool ParseInt(const std::string& text, int low, int high, int& out)
+{
+    char* end = nullptr;
+    long value = std::strtol(text.c_str(), &end, 10);
+    if (text.empty() || *end != '\0' || value < low || value > high)
+        return false;
+    out = static_cast<int>(value);
+    return true;
+}
+
+// Reads the option at argv[i] and its value, if it takes one; advances i past them.
+bool ParseOne(int argc, char** argv, int& i, Options& options, std::string& error)
+{
+    const std::string arg = argv[i];
+    if (arg == "--tls") {
+        options.tls = true;
+        return true;
+    }
+    auto value = [&]() -> const char* {
+        if (i + 1 < argc)
+            return argv[++i];
+        error = arg + " needs a value";
+        return nullptr;
+    };
+    for (const auto& option : kNumberOptions) {
+        if (arg != option.name)
+            continue;
+        const char* text = value();
+        if (text && !ParseInt(text, option.low, option.high, options.*option.field))
+            error = arg + " must be " + std::to_string(option.low) + " to " + std::to_string(option.high);
+        return error.empty();
+    }
+    for (const auto& option : kTextOptions) {
+        if (arg != option.name)
+            continue;
+        if (const char* text = value())
+            options.*option.field = text;
+        return error.empty();
+    }
+    error = "unknown argument " + arg;
+    return false;
+}
+
+} // namespace
+
 std::string Usage()
 {
     return "usage: spacemgm-cloud --port N --fixture FILE [--state FILE] [--tls] [--faults FILE]\n"
@@ -31,66 +104,11 @@ std::string Help()
            "cloud/README.md describes the services, fixtures, faults and the admin API.\n";
 }
 
-static bool ParseInt(const std::string& text, int low, int high, int& out)
-{
-    char* end = nullptr;
-    long value = std::strtol(text.c_str(), &end, 10);
-    if (text.empty() || *end != '\0' || value < low || value > high)
-        return false;
-    out = static_cast<int>(value);
-    return true;
-}
-
 bool ParseOptions(int argc, char** argv, Options& options, std::string& error)
 {
-    for (int i = 1; i < argc; ++i) {
-        std::string arg = argv[i];
-        auto value = [&](std::string& out) {
-            if (i + 1 >= argc) {
-                error = arg + " needs a value";
-                return false;
-            }
-            out = argv[++i];
-            return true;
-        };
-        std::string text;
-        if (arg == "--tls") {
-            options.tls = true;
-        } else if (arg == "--port") {
-            if (!value(text) || !ParseInt(text, 0, 65535, options.port)) {
-                error = error.empty() ? "--port must be 0 to 65535" : error;
-                return false;
-            }
-        } else if (arg == "--threads") {
-            if (!value(text) || !ParseInt(text, 2, 256, options.threads)) {
-                error = error.empty() ? "--threads must be 2 to 256" : error;
-                return false;
-            }
-        } else if (arg == "--start-delay-ms") {
-            if (!value(text) || !ParseInt(text, 0, 60000, options.startDelayMs)) {
-                error = error.empty() ? "--start-delay-ms must be 0 to 60000" : error;
-                return false;
-            }
-        } else if (arg == "--fixture") {
-            if (!value(options.fixture))
-                return false;
-        } else if (arg == "--state") {
-            if (!value(options.state))
-                return false;
-        } else if (arg == "--faults") {
-            if (!value(options.faults))
-                return false;
-        } else if (arg == "--write-config") {
-            if (!value(options.writeConfig))
-                return false;
-        } else if (arg == "--ca-file") {
-            if (!value(options.caFile))
-                return false;
-        } else {
-            error = "unknown argument " + arg;
+    for (int i = 1; i < argc; ++i)
+        if (!ParseOne(argc, argv, i, options, error))
             return false;
-        }
-    }
     if (options.fixture.empty()) {
         error = "--fixture is required";
         return false;

@@ -1,8 +1,9 @@
 // The quota service at the family share address: the quota-used query with
 // its filters, and the drive's used bytes.
 #include <algorithm>
-#include <regex>
+#include <cctype>
 #include <set>
+#include <unordered_map>
 
 #include "routes.h"
 #include "wire_text.h"
@@ -67,23 +68,34 @@ std::vector<std::string> SplitComma(const std::string& text)
     return out;
 }
 
+// Each device by both of its ids; the first device that holds an id keeps it.
+std::unordered_map<std::string, const BackupOwner*> OwnersById(const AccountData& account)
+{
+    std::unordered_map<std::string, const BackupOwner*> owners;
+    for (const auto& owner : account.backups) {
+        owners.emplace(owner.backupDeviceId, &owner);
+        owners.emplace(owner.device.deviceId, &owner);
+    }
+    return owners;
+}
+
 Reply DeviceQuota(const Call& call, const std::string& list)
 {
     Json::Value reply = Success(0);
     int64_t used = 0;
     std::set<std::string> answered;
+    const auto owners = OwnersById(call.account);
     for (const auto& id : SplitComma(list)) {
         if (id.empty() || !answered.insert(id).second)
             continue;
-        for (const auto& owner : call.account.backups) {
-            if (owner.backupDeviceId != id && owner.device.deviceId != id)
-                continue;
-            int64_t size = owner.TotalSize();
-            used += size;
-            reply["quotaDetails"].append(
-                PrivateDetail(2000, id, "", false, static_cast<int64_t>(owner.backups.size()), 0, size));
-            break;
-        }
+        auto found = owners.find(id);
+        if (found == owners.end())
+            continue;
+        const BackupOwner& owner = *found->second;
+        int64_t size = owner.TotalSize();
+        used += size;
+        reply["quotaDetails"].append(
+            PrivateDetail(2000, id, "", false, static_cast<int64_t>(owner.backups.size()), 0, size));
     }
     reply["used"] = Json::Int64(used);
     return JsonReply(reply);
@@ -116,33 +128,22 @@ Reply KindQuota(const Call& call, const std::string& kindList, const std::string
     return JsonReply(reply);
 }
 
-} // namespace
-
-Reply HandleQuotaUsed(const Call& call)
+bool IsKindList(const std::string& text)
 {
-    FormBody form = ParseForm(call.req.body);
-    if (!form.ok())
-        return Refused(call, 400, form.error);
-    for (const char* key : {"nsp_svc", "accessToken", "q", "serviceType"})
-        if (!form.fields.count(key))
-            return Refused(call, 400, std::string("form: \"") + key + "\" missing");
-    if (form.fields.size() != 4) {
-        for (const auto& [key, value] : form.fields)
-            if (key != "nsp_svc" && key != "accessToken" && key != "q" && key != "serviceType")
-                return Refused(call, 400, "form: unexpected key \"" + key + "\"");
-    }
-    if (form.fields.at("nsp_svc") != "nsp.user.getQuotaUsedInfo")
-        return Refused(call, 400, "nsp_svc: expected nsp.user.getQuotaUsedInfo");
-    if (form.fields.at("accessToken") != call.account.session.accessToken)
-        return Refused(call, 401, "form: accessToken is not the session's token");
+    return !text.empty() && std::all_of(text.begin(), text.end(), [](unsigned char c) {
+        return std::isalnum(c) || c == '_' || c == ',';
+    });
+}
 
-    const std::string& q = form.fields.at("q");
-    const std::string& serviceType = form.fields.at("serviceType");
-    static const std::regex devices(R"(^collection=private and deviceId in \[([^\]]*)\]$)");
-    static const std::regex kinds(
-        R"(^collection=private and kind in \[([A-Za-z0-9_,]+)\] and \(trashed=true or trashed=false\)$)");
-    std::smatch match;
-    Reply reply;
+Reply Named(Reply reply, const char* endpoint)
+{
+    reply.endpoint = endpoint;
+    return reply;
+}
+
+// The whole `q` must be one of the filters the client writes.
+Reply AnswerFilter(const Call& call, const std::string& q, const std::string& serviceType)
+{
     if (q == "collection=photo and (trashed=true or trashed=false)") {
         if (serviceType != "10880002")
             return Refused(call, 400, "serviceType " + serviceType + " does not keep photos");
@@ -150,28 +151,43 @@ Reply HandleQuotaUsed(const Call& call)
         Json::Value v = Success(g.bytes + g.recycleBytes);
         v["quotaDetails"].append(PhotoOrDriveDetail("photo", 10880002, false, g.bytes));
         v["quotaDetails"].append(PhotoOrDriveDetail("photo", 10880002, true, g.recycleBytes));
-        reply = JsonReply(v);
-        reply.endpoint = "quota.photo";
-    } else if (q == "collection=drive and (trashed=true)") {
+        return Named(JsonReply(v), "quota.photo");
+    }
+    if (q == "collection=drive and (trashed=true)") {
         if (serviceType != "10781986")
             return Refused(call, 400, "serviceType " + serviceType + " does not keep the drive");
         Json::Value v = Success(call.account.drive.recycleBytes);
         v["quotaDetails"].append(
             PhotoOrDriveDetail("drive", 10781986, true, call.account.drive.recycleBytes));
-        reply = JsonReply(v);
-        reply.endpoint = "quota.drive";
-    } else if (std::regex_match(q, match, devices)) {
+        return Named(JsonReply(v), "quota.drive");
+    }
+    auto devices = Between(q, "collection=private and deviceId in [", "]");
+    if (devices && devices->find(']') == std::string::npos) {
         if (serviceType != "2000")
             return Refused(call, 400, "serviceType " + serviceType + " does not keep device backups");
-        reply = DeviceQuota(call, match[1]);
-        reply.endpoint = "quota.devices";
-    } else if (std::regex_match(q, match, kinds)) {
-        reply = KindQuota(call, match[1], serviceType);
-        reply.endpoint = "quota.kinds";
-    } else {
-        return Refused(call, 400, "q: unknown filter \"" + q + "\"");
+        return Named(DeviceQuota(call, *devices), "quota.devices");
     }
-    return reply;
+    auto kinds = Between(q, "collection=private and kind in [", "] and (trashed=true or trashed=false)");
+    if (kinds && IsKindList(*kinds))
+        return Named(KindQuota(call, *kinds, serviceType), "quota.kinds");
+    return Refused(call, 400, "q: unknown filter \"" + q + "\"");
+}
+
+} // namespace
+
+Reply HandleQuotaUsed(const Call& call)
+{
+    FormBody form = ParseForm(call.req.body);
+    if (!form.ok())
+        return Refused(call, 400, form.error);
+    if (std::string problem = CheckFormKeys(form, {"nsp_svc", "accessToken", "q", "serviceType"});
+        !problem.empty())
+        return Refused(call, 400, problem);
+    if (form.fields.at("nsp_svc") != "nsp.user.getQuotaUsedInfo")
+        return Refused(call, 400, "nsp_svc: expected nsp.user.getQuotaUsedInfo");
+    if (form.fields.at("accessToken") != call.account.session.accessToken)
+        return Refused(call, 401, "form: accessToken is not the session's token");
+    return AnswerFilter(call, form.fields.at("q"), form.fields.at("serviceType"));
 }
 
 Reply HandleDriveQuota(const Call& call)

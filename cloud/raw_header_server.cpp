@@ -2,8 +2,12 @@
 
 #include <algorithm>
 #include <arpa/inet.h>
+#include <cctype>
+#include <cerrno>
 #include <chrono>
+#include <cstring>
 #include <netinet/in.h>
+#include <netinet/tcp.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <sys/time.h>
@@ -164,25 +168,70 @@ void SetSocketTimeouts(int sock, time_t seconds)
     ::setsockopt(sock, SOL_SOCKET, SO_SNDTIMEO, &tv, sizeof tv);
 }
 
-class ListenBacklog
+class LoopbackBinding
 {
 public:
-    virtual ~ListenBacklog() = default;
-    virtual bool Widen(int backlog) = 0;
+    virtual ~LoopbackBinding() = default;
+    virtual int Bind(int port, std::string& error) = 0;
 };
+
+// Headers and body go out in two writes; without this, Nagle and delayed
+// acknowledgements hold every reply for tens of milliseconds.
+void SetNoDelay(int sock)
+{
+    int on = 1;
+    ::setsockopt(sock, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+}
+
+std::string SystemError(const std::string& what)
+{
+    std::string reason = std::strerror(errno);
+    if (!reason.empty())
+        reason[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(reason[0])));
+    return what + ": " + reason;
+}
+
+int ListeningSocket(int port, std::string& error)
+{
+    const std::string where = "127.0.0.1:" + std::to_string(port);
+    const int sock = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    if (sock < 0) {
+        error = SystemError("cannot open a socket");
+        return -1;
+    }
+    int on = 1;
+    ::setsockopt(sock, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(static_cast<uint16_t>(port));
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    if (::bind(sock, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
+        ::listen(sock, SOMAXCONN) != 0) {
+        error = SystemError("cannot listen on " + where);
+        ::close(sock);
+        return -1;
+    }
+    return sock;
+}
 
 // httplib's keep-alive loop, over a recording stream. It also ends an idle
 // connection as soon as the server stops, where the library would wait out
 // the whole keep-alive time first.
-template <class Base> class RawHeaderServer : public Base, public ListenBacklog
+template <class Base> class RawHeaderServer : public Base, public LoopbackBinding
 {
 public:
     using Base::Base;
 
-    bool Widen(int backlog) override
+    int Bind(int port, std::string& error) override
     {
-        const int sock = this->svr_sock_;
-        return sock != INVALID_SOCKET && ::listen(sock, backlog) == 0;
+        const int sock = ListeningSocket(port, error);
+        if (sock < 0)
+            return -1;
+        std::string ip;
+        int bound = 0;
+        AddressOf(sock, false, ip, bound);
+        this->svr_sock_ = sock;
+        return bound;
     }
 
 protected:
@@ -232,6 +281,7 @@ class PlainServer : public RawHeaderServer<httplib::Server>
 private:
     bool process_and_close_socket(socket_t sock) override
     {
+        SetNoDelay(sock);
         RecordingStream stream(sock, nullptr, ReadTimeoutMs(), WriteTimeoutMs());
         const bool served = ServeConnection(stream, nullptr);
         ::shutdown(sock, SHUT_RDWR);
@@ -249,6 +299,7 @@ private:
     bool process_and_close_socket(socket_t sock) override
     {
         bool served = false;
+        SetNoDelay(sock);
         SetSocketTimeouts(sock, read_timeout_sec_ > 0 ? read_timeout_sec_ : 1);
         if (SSL* ssl = SSL_new(ssl_context())) {
             // A client that refuses the certificate ends here, in the handshake.
@@ -278,10 +329,14 @@ std::unique_ptr<httplib::Server> MakeRawHeaderTlsServer(X509* certificate, EVP_P
     return std::make_unique<TlsServer>(certificate, privateKey);
 }
 
-bool WidenListenBacklog(httplib::Server& server, int backlog)
+int BindLoopback(httplib::Server& server, int port, std::string& error)
 {
-    auto* listening = dynamic_cast<ListenBacklog*>(&server);
-    return listening != nullptr && listening->Widen(backlog);
+    auto* binding = dynamic_cast<LoopbackBinding*>(&server);
+    if (!binding) {
+        error = "the server cannot be bound here";
+        return -1;
+    }
+    return binding->Bind(port, error);
 }
 
 void AddEmptyHeaders(const std::string& head, httplib::Headers& headers)

@@ -18,13 +18,15 @@ namespace cloud {
 std::unique_ptr<httplib::Server> MakeRawHeaderServer();
 std::unique_ptr<httplib::Server> MakeRawHeaderTlsServer(X509* certificate, EVP_PKEY* privateKey);
 
-// httplib 0.11 listens with a backlog of 5. When a dozen clients connect at
-// once and the accept thread is slow to run (TLS handshakes keep both cores
-// busy), the kernel drops the surplus SYNs and each of those clients waits a
-// whole second for its retransmission. Listening again on the bound socket of
-// a server made above raises the backlog; returns false for any other server
-// or when the socket is not bound.
-bool WidenListenBacklog(httplib::Server& server, int backlog);
+// Binds a server made above to 127.0.0.1:port (0: any free port) and
+// listens. Only SO_REUSEADDR is set, so a port that another server listens on
+// is refused ("address already in use") instead of shared: httplib's own
+// bind sets SO_REUSEPORT, and two emulators would answer in turns. The
+// backlog is the system's: httplib 0.11 listens with 5, and when a dozen
+// clients connect at once while TLS handshakes keep both cores busy, the
+// kernel drops the surplus SYNs and each of those clients waits a whole
+// second for its retransmission. Returns the bound port, or -1 with `error`.
+int BindLoopback(httplib::Server& server, int port, std::string& error);
 
 // Adds to `headers` each header line of `head` (request line, header lines,
 // blank line) whose value is empty or blank and that is not there yet.

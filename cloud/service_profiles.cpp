@@ -1,6 +1,9 @@
 #include "service_profiles.h"
 
-#include <regex>
+#include <algorithm>
+#include <cctype>
+#include <optional>
+#include <tuple>
 
 #include "wire_text.h"
 
@@ -68,24 +71,19 @@ std::vector<ServiceProfile> MakeProfiles()
                  AllBut({"version", "encversion"}),
                  true,
                  ErrorShape::Statistic});
-    p.push_back({"familyShare",
-                 "/family",
-                 true,
-                 AuthForm::Bearer,
-                 "10004",
-                 {json, {"version", "1122300"}, {"x-zp-app-version", "1122300"}},
-                 AllBut({"version", "x-zp-app-version"}),
-                 false,
-                 ErrorShape::RetCode});
-    p.push_back({"cloudSyncDrive",
-                 "/syncdrive",
-                 true,
-                 AuthForm::Bearer,
-                 "10004",
-                 {json, {"version", "1122300"}, {"x-zp-app-version", "1122300"}},
-                 AllBut({"version", "x-zp-app-version"}),
-                 false,
-                 ErrorShape::Error});
+    // The quota service and the data version service take the same headers
+    // and differ only in how they say no.
+    for (auto [name, prefix, errors] : {std::tuple{"familyShare", "/family", ErrorShape::RetCode},
+                                        std::tuple{"cloudSyncDrive", "/syncdrive", ErrorShape::Error}})
+        p.push_back({name,
+                     prefix,
+                     true,
+                     AuthForm::Bearer,
+                     "10004",
+                     {json, {"version", "1122300"}, {"x-zp-app-version", "1122300"}},
+                     AllBut({"version", "x-zp-app-version"}),
+                     false,
+                     errors});
     // The host's own requests: only the token is checked.
     p.push_back(
         {"accountQuota", "/account", false, AuthForm::Bearer, "", {}, {}, false, ErrorShape::RetCode});
@@ -138,19 +136,39 @@ Refusal CheckAuthorization(const ServiceProfile& profile, const httplib::Request
     return {};
 }
 
+bool AllDigits(const std::string& text)
+{
+    return std::all_of(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c); });
+}
+
+// The code of a trace id "<code>_11_<seconds>_<eight digits, the first not 0>",
+// where the code is five digits or "000-1"; nullopt when it has another form.
+std::optional<std::string> TraceCodeOf(const std::string& value)
+{
+    const std::string code = value.substr(0, 5);
+    if (code.size() != 5 || !(AllDigits(code) || code == "000-1") || value.compare(5, 4, "_11_") != 0)
+        return std::nullopt;
+    const size_t secondsEnd = value.find('_', 9);
+    if (secondsEnd == std::string::npos || secondsEnd == 9 || !AllDigits(value.substr(9, secondsEnd - 9)))
+        return std::nullopt;
+    const std::string digits = value.substr(secondsEnd + 1);
+    if (digits.size() != 8 || !AllDigits(digits) || digits[0] == '0')
+        return std::nullopt;
+    return code;
+}
+
 Refusal CheckTraceId(const ServiceProfile& profile, const httplib::Request& req)
 {
     if (profile.traceCode.empty())
         return {};
     if (req.get_header_value_count("x-zp-trace-id") != 1)
         return Refuse(400, "x-zp-trace-id: expected exactly one");
-    static const std::regex form(R"(^([0-9]{5}|000-1)_11_[0-9]+_[1-9][0-9]{7}$)");
     const std::string value = req.get_header_value("x-zp-trace-id");
-    std::smatch match;
-    if (!std::regex_match(value, match, form))
+    const auto code = TraceCodeOf(value);
+    if (!code)
         return Refuse(400, "x-zp-trace-id: \"" + value + "\" is not code_11_seconds_digits");
-    if (match[1] != profile.traceCode)
-        return Refuse(400, "x-zp-trace-id: code " + match[1].str() + ", expected " + profile.traceCode);
+    if (*code != profile.traceCode)
+        return Refuse(400, "x-zp-trace-id: code " + *code + ", expected " + profile.traceCode);
     return {};
 }
 
@@ -224,6 +242,13 @@ const ServiceProfile* FindProfile(const std::string& name)
     return nullptr;
 }
 
+const ServiceProfile& AdminProfile()
+{
+    static const ServiceProfile admin{"admin", "/_admin", false, AuthForm::Unchecked, "",
+                                      {},      {},        false, ErrorShape::Admin};
+    return admin;
+}
+
 Refusal CheckHeaders(const ServiceProfile& profile, const httplib::Request& req, const Session& session)
 {
     if (auto r = CheckAuthorization(profile, req, session))
@@ -271,6 +296,9 @@ std::string ErrorBody(ErrorShape shape, int code, const std::string& reason)
         break;
     case ErrorShape::Text:
         return std::to_string(code) + " " + reason + "\n";
+    case ErrorShape::Admin:
+        v["error"] = reason;
+        break;
     }
     return WriteCompactJson(v);
 }

@@ -26,6 +26,7 @@ enum class ErrorShape
     Statistic, // {"result": {"errorNo": n, "info": "..."}}
     Error,     // {"error": {"errorCode": "n", "errorMessage": "..."}}
     Text,      // plain text
+    Admin,     // {"error": "..."}, the admin API's
 };
 
 struct ServiceProfile
@@ -41,8 +42,11 @@ struct ServiceProfile
     ErrorShape errors = ErrorShape::Text;
 };
 
+// The services, in the order the host configuration lists them.
 const std::vector<ServiceProfile>& ServiceProfiles();
 const ServiceProfile* FindProfile(const std::string& name);
+// The admin API under "/_admin": no checks, no faults, not logged.
+const ServiceProfile& AdminProfile();
 
 struct Refusal
 {

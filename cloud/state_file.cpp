@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace cloud {
@@ -22,15 +23,17 @@ static bool WriteAll(int fd, const std::string& contents)
     return true;
 }
 
-bool WriteFileAtomically(const std::string& path, const std::string& contents, std::string& error)
+bool WriteFileAtomically(const std::string& path, const std::string& contents, mode_t mode,
+                         std::string& error)
 {
     std::string temporary = path + ".tmp." + std::to_string(::getpid());
-    int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, mode);
     if (fd < 0) {
         error = temporary + ": " + std::strerror(errno);
         return false;
     }
-    bool written = WriteAll(fd, contents) && ::fsync(fd) == 0;
+    // A temporary left by an earlier run keeps its old mode through O_TRUNC.
+    bool written = ::fchmod(fd, mode) == 0 && WriteAll(fd, contents) && ::fsync(fd) == 0;
     int saved = errno;
     ::close(fd);
     if (!written) {

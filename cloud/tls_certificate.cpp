@@ -96,7 +96,7 @@ bool WriteCertificatePem(X509* cert, const std::string& path, std::string& error
     long size = BIO_get_mem_data(bio, &data);
     std::string pem(data, static_cast<size_t>(size));
     BIO_free(bio);
-    return WriteFileAtomically(path, pem, error);
+    return WriteFileAtomically(path, pem, kReadableByAll, error);
 }
 
 } // namespace cloud

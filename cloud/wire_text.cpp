@@ -162,6 +162,21 @@ FormBody ParseForm(const std::string& body)
     return form;
 }
 
+std::string CheckFormKeys(const FormBody& form, const std::vector<std::string>& required,
+                          const std::vector<std::string>& optional)
+{
+    for (const auto& key : required)
+        if (!form.fields.count(key))
+            return "form: \"" + key + "\" missing";
+    auto listed = [](const std::vector<std::string>& keys, const std::string& key) {
+        return std::find(keys.begin(), keys.end(), key) != keys.end();
+    };
+    for (const auto& [key, value] : form.fields)
+        if (!listed(required, key) && !listed(optional, key))
+            return "form: unexpected key \"" + key + "\"";
+    return "";
+}
+
 std::optional<std::vector<std::string>> ParseListText(const std::string& text)
 {
     if (text.size() < 2 || text.front() != '[' || text.back() != ']')
@@ -190,19 +205,67 @@ std::optional<std::vector<std::string>> ParseListText(const std::string& text)
     return items;
 }
 
+namespace {
+
+// The deepest nesting of arrays and objects in `text`, counted outside
+// strings; stops counting once past `limit`.
+int NestingDepth(const std::string& text, int limit)
+{
+    int depth = 0;
+    int deepest = 0;
+    bool inString = false;
+    for (size_t i = 0; i < text.size() && deepest <= limit; ++i) {
+        const char c = text[i];
+        if (inString) {
+            if (c == '\\')
+                ++i;
+            else if (c == '"')
+                inString = false;
+        } else if (c == '"') {
+            inString = true;
+        } else if (c == '[' || c == '{') {
+            deepest = std::max(deepest, ++depth);
+        } else if ((c == ']' || c == '}') && depth > 0) {
+            --depth;
+        }
+    }
+    return deepest;
+}
+
+} // namespace
+
 std::optional<Json::Value> ParseJson(const std::string& text, std::string* error)
 {
+    auto fail = [error](const std::string& why) -> std::optional<Json::Value> {
+        if (error)
+            *error = why;
+        return std::nullopt;
+    };
+    if (NestingDepth(text, kMaxJsonDepth) > kMaxJsonDepth)
+        return fail("nested more than " + std::to_string(kMaxJsonDepth) + " levels deep");
     Json::CharReaderBuilder builder;
     builder["collectComments"] = false;
     std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
     Json::Value value;
     std::string errors;
-    if (!reader->parse(text.data(), text.data() + text.size(), &value, &errors)) {
-        if (error)
-            *error = errors;
-        return std::nullopt;
+    try {
+        if (!reader->parse(text.data(), text.data() + text.size(), &value, &errors))
+            return fail(errors);
+    } catch (const Json::Exception& e) {
+        return fail(e.what());
     }
     return value;
+}
+
+std::string OneLineParseError(const std::string& error)
+{
+    std::string line = error.substr(0, error.find('\n', error.find('\n') + 1));
+    for (auto& c : line)
+        if (c == '\n')
+            c = ' ';
+    while (!line.empty() && line.back() == ' ')
+        line.pop_back();
+    return line;
 }
 
 std::string WriteCompactJson(const Json::Value& value)
@@ -229,6 +292,20 @@ std::string ToLower(std::string text)
 bool StartsWith(const std::string& text, const std::string& prefix)
 {
     return text.compare(0, prefix.size(), prefix) == 0;
+}
+
+bool EndsWith(const std::string& text, const std::string& suffix)
+{
+    return text.size() >= suffix.size() &&
+           text.compare(text.size() - suffix.size(), suffix.size(), suffix) == 0;
+}
+
+std::optional<std::string> Between(const std::string& text, const std::string& prefix,
+                                   const std::string& suffix)
+{
+    if (text.size() < prefix.size() + suffix.size() || !StartsWith(text, prefix) || !EndsWith(text, suffix))
+        return std::nullopt;
+    return text.substr(prefix.size(), text.size() - prefix.size() - suffix.size());
 }
 
 } // namespace cloud

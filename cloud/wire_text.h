@@ -32,15 +32,30 @@ struct FormBody
     bool ok() const { return error.empty(); }
 };
 FormBody ParseForm(const std::string& body);
+// Refusal text for a form that lacks one of `required` or has a key that is
+// in neither list; empty when the keys are right. Checked in the order given.
+std::string CheckFormKeys(const FormBody& form, const std::vector<std::string>& required,
+                          const std::vector<std::string>& optional = {});
 
 // The list text of the NSP forms: "[" then quoted items joined by ",", then "]".
 std::optional<std::vector<std::string>> ParseListText(const std::string& text);
 
+// Parses JSON text from a file or a request. Never throws: text nested
+// deeper than kMaxJsonDepth is refused before the parser sees it (a deep
+// enough nesting would otherwise exhaust the stack or make jsoncpp throw).
+constexpr int kMaxJsonDepth = 512;
 std::optional<Json::Value> ParseJson(const std::string& text, std::string* error = nullptr);
+// ParseJson's error as one line: jsoncpp's "* Line N, Column M" and the reason.
+std::string OneLineParseError(const std::string& error);
 std::string WriteCompactJson(const Json::Value& value);
 std::string WriteStyledJson(const Json::Value& value);
 
 std::string ToLower(std::string text);
 bool StartsWith(const std::string& text, const std::string& prefix);
+bool EndsWith(const std::string& text, const std::string& suffix);
+// The text between `prefix` and `suffix` when `text` is exactly prefix, some
+// middle, suffix; nullopt otherwise.
+std::optional<std::string> Between(const std::string& text, const std::string& prefix,
+                                   const std::string& suffix);
 
 } // namespace cloud

@@ -257,6 +257,39 @@ TEST_F(Faults, BadRuleIsRefusedByTheAdminEndpoint)
     EXPECT_NE(r.body.find("kind"), std::string::npos);
 }
 
+// A rule that names what the emulator does not serve could never fire; a
+// test relying on it would pass for the wrong reason.
+TEST_F(Faults, RuleNamingAnUnknownTargetIsRefusedByTheAdminEndpoint)
+{
+    const std::pair<const char*, const char*> refused[] = {
+        {R"({"service":"family","kind":"empty"})", R"(no service named \"family\")"},
+        {R"({"endpoint":"/family/rest","kind":"empty"})", R"(no endpoint at \"/family/rest\")"},
+        {R"({"service":"cbs","endpoint":"/family/rest.php","kind":"empty"})",
+         "/family/rest.php belongs to familyShare, not cbs"},
+        {R"([{"kind":"empty"},{"endpoint":"/nsp/rest.php","kind":"empty"}])", "rule 1: "},
+    };
+    for (const auto& [rule, reason] : refused) {
+        HttpResult r = HttpExchange("POST", cloud->Root() + "/_admin/faults",
+                                    {{"Content-Type", "application/json"}}, rule);
+        EXPECT_EQ(r.status, 400) << rule;
+        EXPECT_NE(r.body.find(reason), std::string::npos) << rule << " -> " << r.body;
+    }
+    EXPECT_EQ(cloud->Hits()["rules"].size(), 0u) << "a refused batch adds none of its rules";
+}
+
+TEST_F(Faults, RuleNamingAServedEndpointOfItsServiceIsTaken)
+{
+    for (const char* endpoint :
+         {"/nsp", "/family/user/v1/quota/drive", "/account/quota", "/om/SpaceOMConfig.json",
+          "/syncdrive/dataSync/v1/service/1005/about", "/pimds/Statistic/Wlan"}) {
+        Json::Value rule;
+        rule["endpoint"] = endpoint;
+        rule["kind"] = "empty";
+        EXPECT_NO_THROW(cloud->AddFault(rule)) << endpoint;
+    }
+    EXPECT_NO_THROW(cloud->AddFault(Rule(R"({"service":"basic","kind":"empty"})")));
+}
+
 TEST(FaultSources, RulesFromTheFaultsFile)
 {
     char dir[] = "/tmp/spacemgm-cloud-faults-XXXXXX";

@@ -108,6 +108,25 @@ TEST_F(BadFixture, DriveBinLargerThanTheDriveIsRefused)
     EXPECT_NE(r.output.find("drive.recycleBytes"), std::string::npos) << r.output;
 }
 
+TEST_F(BadFixture, NestedTwoHundredThousandDeepIsRefusedWithoutACrash)
+{
+    RunResult r = Load(R"({"omConfig":)" + std::string(200000, '[') + std::string(200000, ']') + "}");
+    EXPECT_EQ(r.exitCode, 2) << r.output.substr(0, 2000);
+    EXPECT_NE(r.output.find(path + ": (root): not JSON: nested more than"), std::string::npos)
+        << r.output.substr(0, 2000);
+}
+
+TEST_F(BadFixture, NestedStateFileIsRefusedWithoutACrash)
+{
+    const std::string state = dir + "/state.json";
+    std::ofstream(state) << std::string(200000, '[');
+    RunResult r = RunEmulator("--port 0 --fixture '" + CloudEmulator::FixturePath("sample") + "' --state '" +
+                              state + "'");
+    std::remove(state.c_str());
+    EXPECT_EQ(r.exitCode, 2) << r.output.substr(0, 2000);
+    EXPECT_NE(r.output.find(state + ": (root): not JSON"), std::string::npos) << r.output.substr(0, 2000);
+}
+
 TEST(CommandLine, MissingFixtureFileIsReported)
 {
     RunResult r = RunEmulator("--port 0 --fixture /nonexistent/fixture.json");

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <chrono>
+#include <filesystem>
 #include <fstream>
 #include <random>
 #include <sstream>
@@ -192,6 +193,96 @@ TEST_F(StateFile, KillNineDuringAStreamOfDeletionsNeverLeavesABrokenFile)
     EXPECT_GT(deletionsSeen, 50) << "the kills must land among deletions, not before them";
     CloudEmulator last(options);
     EXPECT_TRUE(last.Account()["files"].isArray());
+}
+
+// CI runs as root, so permissions cannot stop a write: removing the state's
+// folder while the emulator runs does. Each change below must then be
+// refused in the service's own error shape and leave the account as the
+// state file had it; once the folder is back, the next change is kept.
+class UnwritableState : public StateFile
+{
+protected:
+    void SetUp() override
+    {
+        StateFile::SetUp();
+        CloudEmulator::Options options;
+        options.stateFile = statePath;
+        cloud = std::make_unique<CloudEmulator>(options);
+        client = std::make_unique<CloudTestClient>(*cloud, "sample");
+        before = cloud->Account();
+        ASSERT_TRUE(std::filesystem::remove_all(dir) > 0);
+    }
+    void TearDown() override
+    {
+        client.reset();
+        cloud.reset();
+        StateFile::TearDown();
+    }
+    void ExpectAccountAsBefore() const
+    {
+        Json::Value now = cloud->Account();
+        EXPECT_EQ(now["groups"], before["groups"]);
+        EXPECT_EQ(now["backup"], before["backup"]);
+        EXPECT_EQ(now["messages"], before["messages"]);
+        EXPECT_EQ(now["files"], before["files"]);
+    }
+    std::unique_ptr<CloudEmulator> cloud;
+    std::unique_ptr<CloudTestClient> client;
+    Json::Value before;
+};
+
+TEST_F(UnwritableState, DeviceBackupDeletionIsRefusedAndNotMade)
+{
+    CloudReply del = client->Backup(
+        Cmd(R"({"cmd":27,"info":"DeleteDeviceBackupRecordReq","deviceId":"dev-0001","deviceType":1})"));
+    EXPECT_EQ(del.status, 500) << del.body;
+    EXPECT_NE(del.json["result"].asInt(), 0) << del.body;
+    EXPECT_NE(del.json["info"].asString().find("state"), std::string::npos) << del.body;
+    ExpectAccountAsBefore();
+
+    ASSERT_TRUE(std::filesystem::create_directories(dir));
+    CloudReply again = client->Backup(
+        Cmd(R"({"cmd":27,"info":"DeleteDeviceBackupRecordReq","deviceId":"dev-0002","deviceType":2})"));
+    EXPECT_EQ(again.json["result"].asInt(), 0) << again.body;
+    ASSERT_EQ(cloud->Stop(), 0);
+    CloudEmulator::Options options;
+    options.stateFile = statePath;
+    CloudEmulator restarted(options);
+    const Json::Value devices = restarted.Account()["backup"]["devices"];
+    ASSERT_EQ(devices.size(), 1u)
+        << "the refused deletion must not come back as done, nor the kept one undone";
+    EXPECT_EQ(devices[0]["device"]["deviceId"].asString(), "dev-0001");
+}
+
+TEST_F(UnwritableState, MessageDeletionIsRefusedAndNotMade)
+{
+    CloudReply del = client->Backup(
+        Cmd(R"({"cmd":5,"info":"DeleteBackupReq","devId":"","deviceType":0,"typeList":["sms","calllog"]})"));
+    EXPECT_EQ(del.status, 500) << del.body;
+    EXPECT_NE(del.json["result"].asInt(), 0) << del.body;
+    ExpectAccountAsBefore();
+}
+
+TEST_F(UnwritableState, FileRemovalIsRefusedAndNotMade)
+{
+    const std::string file = "/BlockedBackup/Nuvo P60 Pro/PhoneManager_intercept_0.db";
+    CloudReply r = client->Nsp("nsp.vfs.rmfile", {{"files", ListText({file})}, {"reserve", "False"}});
+    EXPECT_EQ(r.status, 500) << r.body;
+    EXPECT_FALSE(r.json.isMember("successList")) << r.body;
+    EXPECT_TRUE(r.json.isMember("errCode")) << r.body;
+    ExpectAccountAsBefore();
+}
+
+TEST_F(UnwritableState, ResetIsRefusedAndNotMade)
+{
+    ASSERT_TRUE(std::filesystem::create_directories(dir));
+    client->Backup(
+        Cmd(R"({"cmd":27,"info":"DeleteDeviceBackupRecordReq","deviceId":"dev-0001","deviceType":1})"));
+    before = cloud->Account();
+    ASSERT_TRUE(std::filesystem::remove_all(dir) > 0);
+    HttpResult r = HttpExchange("POST", cloud->Root() + "/_admin/reset", {}, "");
+    EXPECT_EQ(r.status, 500) << r.body;
+    ExpectAccountAsBefore();
 }
 
 } // namespace

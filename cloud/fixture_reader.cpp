@@ -51,38 +51,43 @@ public:
 
     const Json::Value& Require(const Json::Value& parent, const std::string& place, const char* key) const
     {
-        if (!parent.isMember(key))
-            Fail(Join(place, key), "missing");
-        return parent[key];
+        return *Member(parent, place, key, true);
+    }
+
+    // The member, or null when it is absent and not required.
+    const Json::Value* Member(const Json::Value& parent, const std::string& place, const char* key,
+                              bool required) const
+    {
+        if (!parent.isMember(key)) {
+            if (required)
+                Fail(Join(place, key), "missing");
+            return nullptr;
+        }
+        return &parent[key];
     }
 
     std::string String(const Json::Value& parent, const std::string& place, const char* key, bool required,
                        const std::string& fallback = "") const
     {
-        if (!parent.isMember(key)) {
-            if (required)
-                Fail(Join(place, key), "missing");
+        const Json::Value* v = Member(parent, place, key, required);
+        if (!v)
             return fallback;
-        }
-        if (!parent[key].isString())
+        if (!v->isString())
             Fail(Join(place, key), "must be a string");
-        return parent[key].asString();
+        return v->asString();
     }
 
     int64_t Int(const Json::Value& parent, const std::string& place, const char* key, bool required,
-                int64_t fallback = 0, bool nonNegative = true) const
+                int64_t fallback = 0) const
     {
-        if (!parent.isMember(key)) {
-            if (required)
-                Fail(Join(place, key), "missing");
+        const Json::Value* v = Member(parent, place, key, required);
+        if (!v)
             return fallback;
-        }
-        const Json::Value& v = parent[key];
-        if (!v.isInt64())
+        if (!v->isInt64())
             Fail(Join(place, key), "must be an integer");
-        if (nonNegative && v.asInt64() < 0)
+        if (v->asInt64() < 0)
             Fail(Join(place, key), "must not be negative");
-        return v.asInt64();
+        return v->asInt64();
     }
 
     int Int32(const Json::Value& parent, const std::string& place, const char* key, bool required,
@@ -94,17 +99,23 @@ public:
         return static_cast<int>(v);
     }
 
-    bool Bool(const Json::Value& parent, const std::string& place, const char* key, bool required,
-              bool fallback = false) const
+    bool Bool(const Json::Value& parent, const std::string& place, const char* key, bool required) const
     {
-        if (!parent.isMember(key)) {
-            if (required)
-                Fail(Join(place, key), "missing");
-            return fallback;
-        }
-        if (!parent[key].isBool())
+        const Json::Value* v = Member(parent, place, key, required);
+        if (!v)
+            return false;
+        if (!v->isBool())
             Fail(Join(place, key), "must be true or false");
-        return parent[key].asBool();
+        return v->asBool();
+    }
+
+    // An object member kept as it is (a status, the configuration file).
+    Json::Value ObjectMember(const Json::Value& parent, const std::string& place, const char* key) const
+    {
+        const Json::Value* v = Member(parent, place, key, false);
+        if (v && !v->isObject())
+            Fail(Join(place, key), "must be an object");
+        return v ? *v : Json::Value(Json::objectValue);
     }
 
     const Json::Value& Array(const Json::Value& parent, const std::string& place, const char* key) const
@@ -148,11 +159,7 @@ void ReadPim(const Reader& r, const Json::Value& root, AccountData& account)
         r.Object(v, at, {"dataVersion", "status", "kinds", "maxBatchNumber", "statistics", "records"});
         PimCategory category;
         category.dataVersion = r.String(v, at, "dataVersion", true);
-        if (v.isMember("status")) {
-            if (!v["status"].isObject())
-                r.Fail(Reader::Join(at, "status"), "must be an object");
-            category.status = v["status"];
-        }
+        category.status = r.ObjectMember(v, at, "status");
         const Json::Value& kinds = r.Array(v, at, "kinds");
         for (Json::ArrayIndex i = 0; i < kinds.size(); ++i) {
             if (!kinds[i].isString())
@@ -184,40 +191,56 @@ void ReadPim(const Reader& r, const Json::Value& root, AccountData& account)
     }
 }
 
+// Each element of the device list at `place`: an object with `keys`, whose
+// "device" no earlier element names.
+template <class ReadRest>
+void ReadDeviceList(const Reader& r, const Json::Value& list, const std::string& place,
+                    std::initializer_list<const char*> keys, ReadRest readRest)
+{
+    std::set<std::string> seen;
+    for (Json::ArrayIndex i = 0; i < list.size(); ++i) {
+        const std::string dp = Reader::At(place, i);
+        const Json::Value& d = list[i];
+        r.Object(d, dp, keys);
+        DeviceInfo device = ReadDevice(r, r.Require(d, dp, "device"), Reader::Join(dp, "device"));
+        if (!seen.insert(device.deviceId).second)
+            r.Fail(Reader::Join(dp, "device.deviceId"), "repeats an earlier device");
+        readRest(d, dp, std::move(device));
+    }
+}
+
+BackupEntry ReadBackupEntry(const Reader& r, const Json::Value& e, const std::string& ep)
+{
+    r.Object(e, ep, {"backupId", "status", "type", "size", "startTime", "endTime", "extend"});
+    BackupEntry entry;
+    entry.backupId = r.String(e, ep, "backupId", true);
+    entry.status = r.Int32(e, ep, "status", false);
+    entry.type = r.Int32(e, ep, "type", false);
+    entry.size = r.Int(e, ep, "size", true);
+    entry.startTime = r.Int(e, ep, "startTime", false);
+    entry.endTime = r.Int(e, ep, "endTime", false);
+    entry.extend = r.String(e, ep, "extend", false);
+    return entry;
+}
+
 void ReadBackup(const Reader& r, const Json::Value& root, AccountData& account)
 {
     const std::string place = "backup";
     const Json::Value& v = r.Require(root, "", "backup");
     r.Object(v, place, {"generation", "devices"});
     account.backupGeneration = r.String(v, place, "generation", true);
-    const Json::Value& devices = r.Array(v, place, "devices");
-    std::set<std::string> seen;
-    for (Json::ArrayIndex i = 0; i < devices.size(); ++i) {
-        std::string dp = Reader::At(Reader::Join(place, "devices"), i);
-        const Json::Value& d = devices[i];
-        r.Object(d, dp, {"device", "backupDeviceId", "backups"});
-        BackupOwner owner;
-        owner.device = ReadDevice(r, r.Require(d, dp, "device"), Reader::Join(dp, "device"));
-        owner.backupDeviceId = r.String(d, dp, "backupDeviceId", true);
-        if (!seen.insert(owner.device.deviceId).second)
-            r.Fail(Reader::Join(dp, "device.deviceId"), "repeats an earlier device");
-        const Json::Value& entries = r.Array(d, dp, "backups");
-        for (Json::ArrayIndex k = 0; k < entries.size(); ++k) {
-            std::string ep = Reader::At(Reader::Join(dp, "backups"), k);
-            const Json::Value& e = entries[k];
-            r.Object(e, ep, {"backupId", "status", "type", "size", "startTime", "endTime", "extend"});
-            BackupEntry entry;
-            entry.backupId = r.String(e, ep, "backupId", true);
-            entry.status = r.Int32(e, ep, "status", false);
-            entry.type = r.Int32(e, ep, "type", false);
-            entry.size = r.Int(e, ep, "size", true);
-            entry.startTime = r.Int(e, ep, "startTime", false);
-            entry.endTime = r.Int(e, ep, "endTime", false);
-            entry.extend = r.String(e, ep, "extend", false);
-            owner.backups.push_back(entry);
-        }
-        account.backups.push_back(owner);
-    }
+    ReadDeviceList(r, r.Array(v, place, "devices"), Reader::Join(place, "devices"),
+                   {"device", "backupDeviceId", "backups"},
+                   [&](const Json::Value& d, const std::string& dp, DeviceInfo device) {
+                       BackupOwner owner;
+                       owner.device = std::move(device);
+                       owner.backupDeviceId = r.String(d, dp, "backupDeviceId", true);
+                       const Json::Value& entries = r.Array(d, dp, "backups");
+                       for (Json::ArrayIndex k = 0; k < entries.size(); ++k)
+                           owner.backups.push_back(
+                               ReadBackupEntry(r, entries[k], Reader::At(Reader::Join(dp, "backups"), k)));
+                       account.backups.push_back(std::move(owner));
+                   });
 }
 
 void ReadMessages(const Reader& r, const Json::Value& root, AccountData& account)
@@ -228,20 +251,15 @@ void ReadMessages(const Reader& r, const Json::Value& root, AccountData& account
     account.messagePageSize = r.Int32(v, place, "pageSize", false, 50);
     if (account.messagePageSize < 1)
         r.Fail(Reader::Join(place, "pageSize"), "must be at least 1");
-    const Json::Value& devices = r.Array(v, place, "devices");
-    std::set<std::string> seen;
-    for (Json::ArrayIndex i = 0; i < devices.size(); ++i) {
-        std::string dp = Reader::At(Reader::Join(place, "devices"), i);
-        const Json::Value& d = devices[i];
-        r.Object(d, dp, {"device", "sms", "callLog"});
-        MessageDevice device;
-        device.device = ReadDevice(r, r.Require(d, dp, "device"), Reader::Join(dp, "device"));
-        if (!seen.insert(device.device.deviceId).second)
-            r.Fail(Reader::Join(dp, "device.deviceId"), "repeats an earlier device");
-        device.sms = r.Int32(d, dp, "sms", true);
-        device.callLog = r.Int32(d, dp, "callLog", true);
-        account.messageDevices.push_back(device);
-    }
+    ReadDeviceList(r, r.Array(v, place, "devices"), Reader::Join(place, "devices"),
+                   {"device", "sms", "callLog"},
+                   [&](const Json::Value& d, const std::string& dp, DeviceInfo device) {
+                       MessageDevice messages;
+                       messages.device = std::move(device);
+                       messages.sms = r.Int32(d, dp, "sms", true);
+                       messages.callLog = r.Int32(d, dp, "callLog", true);
+                       account.messageDevices.push_back(std::move(messages));
+                   });
 }
 
 void AddParents(const std::string& path, std::set<std::string>& folders)
@@ -292,24 +310,18 @@ void ReadFiles(const Reader& r, const Json::Value& root, AccountData& account)
             r.Fail("files", file.path + " is both a file and a folder");
 }
 
-} // namespace
-
-AccountData AccountFromJson(const Json::Value& root, const std::string& file)
+void ReadSession(const Reader& r, const Json::Value& root, AccountData& account)
 {
-    Reader r(file);
-    r.Object(root, "",
-             {"name", "session", "quota", "gallery", "drive", "about", "pim", "backup", "messages", "files",
-              "folders", "omConfig", "faults"});
-    AccountData account;
-    account.name = r.String(root, "", "name", false);
-
     const Json::Value& s = r.Require(root, "", "session");
     r.Object(s, "session", {"accessToken", "userId", "country", "deviceUuid"});
     account.session.accessToken = r.String(s, "session", "accessToken", true);
     account.session.userId = r.String(s, "session", "userId", true);
     account.session.country = r.String(s, "session", "country", true);
     account.session.deviceUuid = r.String(s, "session", "deviceUuid", false);
+}
 
+void ReadQuotaFigures(const Reader& r, const Json::Value& root, AccountData& account)
+{
     const Json::Value& q = r.Require(root, "", "quota");
     r.Object(q, "quota", {"total", "family", "otherExtra"});
     account.quota.total = r.Int(q, "quota", "total", true);
@@ -327,32 +339,28 @@ AccountData AccountFromJson(const Json::Value& root, const std::string& file)
     account.drive.recycleBytes = r.Int(d, "drive", "recycleBytes", true);
     if (account.drive.recycleBytes > account.drive.used)
         r.Fail("drive.recycleBytes", "must not exceed drive.used, which includes the bin");
+}
 
-    if (root.isMember("about")) {
-        const Json::Value& a = root["about"];
-        r.Object(a, "about",
-                 {"category", "dataVersion", "domain", "maxBatchNumber", "maxFileUploadSize",
-                  "maxThumbnailSize", "status"});
-        account.about.category = r.String(a, "about", "category", false, account.about.category);
-        account.about.dataVersion = r.String(a, "about", "dataVersion", false, account.about.dataVersion);
-        account.about.domain = r.String(a, "about", "domain", false);
-        account.about.maxBatchNumber =
-            r.Int32(a, "about", "maxBatchNumber", false, account.about.maxBatchNumber);
-        account.about.maxFileUploadSize =
-            r.String(a, "about", "maxFileUploadSize", false, account.about.maxFileUploadSize);
-        account.about.maxThumbnailSize = r.Int(a, "about", "maxThumbnailSize", false);
-        if (a.isMember("status")) {
-            if (!a["status"].isObject())
-                r.Fail("about.status", "must be an object");
-            account.about.status = a["status"];
-        }
-    }
+void ReadAbout(const Reader& r, const Json::Value& root, AccountData& account)
+{
+    if (!root.isMember("about"))
+        return;
+    const Json::Value& a = root["about"];
+    PhotoAbout& about = account.about;
+    r.Object(a, "about",
+             {"category", "dataVersion", "domain", "maxBatchNumber", "maxFileUploadSize", "maxThumbnailSize",
+              "status"});
+    about.category = r.String(a, "about", "category", false, about.category);
+    about.dataVersion = r.String(a, "about", "dataVersion", false, about.dataVersion);
+    about.domain = r.String(a, "about", "domain", false);
+    about.maxBatchNumber = r.Int32(a, "about", "maxBatchNumber", false, about.maxBatchNumber);
+    about.maxFileUploadSize = r.String(a, "about", "maxFileUploadSize", false, about.maxFileUploadSize);
+    about.maxThumbnailSize = r.Int(a, "about", "maxThumbnailSize", false);
+    about.status = r.ObjectMember(a, "about", "status");
+}
 
-    ReadPim(r, root, account);
-    ReadBackup(r, root, account);
-    ReadMessages(r, root, account);
-    ReadFiles(r, root, account);
-
+void ReadServed(const Reader& r, const Json::Value& root, AccountData& account)
+{
     if (root.isMember("omConfig")) {
         const Json::Value& om = root["omConfig"];
         if (!om.isNull() && !om.isObject())
@@ -364,9 +372,57 @@ AccountData AccountFromJson(const Json::Value& root, const std::string& file)
             r.Fail("faults", "must be an array");
         account.faults = root["faults"];
     }
-    if (account.Groups().Used() < 0)
+}
+
+// Every byte the quota groups add up, so that their sums cannot overflow
+// later; false when the total does not fit in 64 bits.
+bool SizesFit(const AccountData& account)
+{
+    int64_t total = 0;
+    auto add = [&total](int64_t bytes) { return !__builtin_add_overflow(total, bytes, &total); };
+    bool fits = add(account.drive.used) && add(account.gallery.bytes) && add(account.gallery.recycleBytes) &&
+                add(account.quota.family) && add(account.quota.otherExtra);
+    for (const auto& owner : account.backups)
+        for (const auto& entry : owner.backups)
+            fits = fits && add(entry.size);
+    for (const auto& [name, category] : account.pim)
+        for (const auto& record : category.records)
+            fits = fits && add(record.assetsQuotadSpace);
+    for (const auto& file : account.files)
+        fits = fits && add(file.size);
+    return fits;
+}
+
+} // namespace
+
+AccountData AccountFromJson(const Json::Value& root, const std::string& file)
+{
+    Reader r(file);
+    r.Object(root, "",
+             {"name", "session", "quota", "gallery", "drive", "about", "pim", "backup", "messages", "files",
+              "folders", "omConfig", "faults"});
+    AccountData account;
+    account.name = r.String(root, "", "name", false);
+    ReadSession(r, root, account);
+    ReadQuotaFigures(r, root, account);
+    ReadAbout(r, root, account);
+    ReadPim(r, root, account);
+    ReadBackup(r, root, account);
+    ReadMessages(r, root, account);
+    ReadFiles(r, root, account);
+    ReadServed(r, root, account);
+    if (!SizesFit(account))
         r.Fail("quota", "sizes overflow");
     return account;
+}
+
+AccountData AccountFromText(const std::string& text, const std::string& file)
+{
+    std::string errors;
+    auto root = ParseJson(text, &errors);
+    if (!root)
+        throw FixtureError(file, "", "not JSON: " + OneLineParseError(errors));
+    return AccountFromJson(*root, file);
 }
 
 AccountData LoadAccountFile(const std::string& path)
@@ -376,114 +432,7 @@ AccountData LoadAccountFile(const std::string& path)
         throw FixtureError(path, "", "cannot be read");
     std::stringstream buffer;
     buffer << in.rdbuf();
-    std::string errors;
-    auto root = ParseJson(buffer.str(), &errors);
-    if (!root) {
-        // jsoncpp says "* Line N, Column M" followed by the reason.
-        std::string first = errors.substr(0, errors.find('\n', errors.find('\n') + 1));
-        for (auto& c : first)
-            if (c == '\n')
-                c = ' ';
-        throw FixtureError(path, "", "not JSON: " + first);
-    }
-    return AccountFromJson(*root, path);
-}
-
-Json::Value AccountToJson(const AccountData& account)
-{
-    Json::Value root;
-    root["name"] = account.name;
-    Json::Value& s = root["session"];
-    s["accessToken"] = account.session.accessToken;
-    s["userId"] = account.session.userId;
-    s["country"] = account.session.country;
-    if (!account.session.deviceUuid.empty())
-        s["deviceUuid"] = account.session.deviceUuid;
-    root["quota"]["total"] = Json::Int64(account.quota.total);
-    root["quota"]["family"] = Json::Int64(account.quota.family);
-    root["quota"]["otherExtra"] = Json::Int64(account.quota.otherExtra);
-    root["gallery"]["bytes"] = Json::Int64(account.gallery.bytes);
-    root["gallery"]["recycleBytes"] = Json::Int64(account.gallery.recycleBytes);
-    root["drive"]["used"] = Json::Int64(account.drive.used);
-    root["drive"]["recycleBytes"] = Json::Int64(account.drive.recycleBytes);
-    Json::Value& a = root["about"];
-    a["category"] = account.about.category;
-    a["dataVersion"] = account.about.dataVersion;
-    a["domain"] = account.about.domain;
-    a["maxBatchNumber"] = account.about.maxBatchNumber;
-    a["maxFileUploadSize"] = account.about.maxFileUploadSize;
-    a["maxThumbnailSize"] = Json::Int64(account.about.maxThumbnailSize);
-    a["status"] = account.about.status;
-    for (const auto& [name, category] : account.pim) {
-        Json::Value& c = root["pim"][name];
-        c["dataVersion"] = category.dataVersion;
-        c["status"] = category.status;
-        c["kinds"] = Json::Value(Json::arrayValue);
-        for (const auto& kind : category.kinds)
-            c["kinds"].append(kind);
-        c["maxBatchNumber"] = category.maxBatchNumber;
-        c["statistics"] = Json::Value(Json::arrayValue);
-        for (const auto& stat : category.statistics) {
-            Json::Value e;
-            e["source"] = stat.source;
-            e["sumNum"] = stat.sumNum;
-            c["statistics"].append(e);
-        }
-        c["records"] = Json::Value(Json::arrayValue);
-        for (const auto& record : category.records) {
-            Json::Value e;
-            e["kind"] = record.kind;
-            e["trashed"] = record.trashed;
-            e["recordsCount"] = Json::Int64(record.recordsCount);
-            e["assetsQuotadSpace"] = Json::Int64(record.assetsQuotadSpace);
-            e["recordsQuotadSpace"] = Json::Int64(record.recordsQuotadSpace);
-            c["records"].append(e);
-        }
-    }
-    root["backup"]["generation"] = account.backupGeneration;
-    root["backup"]["devices"] = Json::Value(Json::arrayValue);
-    for (const auto& owner : account.backups) {
-        Json::Value d;
-        d["device"] = DeviceToJson(owner.device);
-        d["backupDeviceId"] = owner.backupDeviceId;
-        d["backups"] = Json::Value(Json::arrayValue);
-        for (const auto& entry : owner.backups) {
-            Json::Value e;
-            e["backupId"] = entry.backupId;
-            e["status"] = entry.status;
-            e["type"] = entry.type;
-            e["size"] = Json::Int64(entry.size);
-            e["startTime"] = Json::Int64(entry.startTime);
-            e["endTime"] = Json::Int64(entry.endTime);
-            e["extend"] = entry.extend;
-            d["backups"].append(e);
-        }
-        root["backup"]["devices"].append(d);
-    }
-    root["messages"]["pageSize"] = account.messagePageSize;
-    root["messages"]["devices"] = Json::Value(Json::arrayValue);
-    for (const auto& device : account.messageDevices) {
-        Json::Value d;
-        d["device"] = DeviceToJson(device.device);
-        d["sms"] = device.sms;
-        d["callLog"] = device.callLog;
-        root["messages"]["devices"].append(d);
-    }
-    root["files"] = Json::Value(Json::arrayValue);
-    for (const auto& file : account.files) {
-        Json::Value f;
-        f["path"] = file.path;
-        f["size"] = Json::Int64(file.size);
-        f["createTime"] = Json::Int64(file.createTime);
-        f["modifyTime"] = Json::Int64(file.modifyTime);
-        root["files"].append(f);
-    }
-    root["folders"] = Json::Value(Json::arrayValue);
-    for (const auto& folder : account.folders)
-        root["folders"].append(folder);
-    root["omConfig"] = account.omConfig;
-    root["faults"] = account.faults;
-    return root;
+    return AccountFromText(buffer.str(), path);
 }
 
 } // namespace cloud
