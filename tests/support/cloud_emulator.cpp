@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <memory>
 #include <mutex>
 #include <poll.h>
@@ -18,6 +19,7 @@
 #include <unistd.h>
 
 #include <curl/curl.h>
+#include <gtest/gtest.h>
 
 namespace spacemgm_test {
 
@@ -41,6 +43,70 @@ std::string ReadFile(const std::string& path)
     std::stringstream text;
     text << in.rdbuf();
     return text.str();
+}
+
+// Starts `args` with stdout on a pipe (returned in `stdoutFd`) and stderr in
+// the file at `stderrPath`.
+pid_t Spawn(std::vector<std::string>& args, const std::string& stderrPath, int& stdoutFd)
+{
+    int pipeFds[2];
+    if (::pipe2(pipeFds, O_CLOEXEC) != 0)
+        throw std::runtime_error(std::string("pipe: ") + std::strerror(errno));
+    const pid_t pid = ::fork();
+    if (pid < 0)
+        throw std::runtime_error(std::string("fork: ") + std::strerror(errno));
+    if (pid == 0) {
+        ::dup2(pipeFds[1], STDOUT_FILENO);
+        int err = ::open(stderrPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+        if (err >= 0)
+            ::dup2(err, STDERR_FILENO);
+        std::vector<char*> argv;
+        for (auto& arg : args)
+            argv.push_back(arg.data());
+        argv.push_back(nullptr);
+        ::execv(argv[0], argv.data());
+        ::_exit(127);
+    }
+    ::close(pipeFds[1]);
+    stdoutFd = pipeFds[0];
+    return pid;
+}
+
+// The emulator's announcement up to its "ready" line; empty when it ends or
+// stays silent for 30 s (a large fixture under a sanitizer takes a while).
+std::string ReadUntilReady(int stdoutFd)
+{
+    std::string output;
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    while (std::chrono::steady_clock::now() < deadline) {
+        pollfd fd{stdoutFd, POLLIN, 0};
+        if (::poll(&fd, 1, 100) <= 0)
+            continue;
+        char buffer[4096];
+        ssize_t n = ::read(stdoutFd, buffer, sizeof buffer);
+        if (n <= 0)
+            break;
+        output.append(buffer, static_cast<size_t>(n));
+        if (output.find("\nready\n") != std::string::npos || output.rfind("ready\n", 0) == 0)
+            return output;
+    }
+    return "";
+}
+
+// Failures of the emulator itself go to the test that used it.
+void ReportProblem(const std::string& problem)
+{
+    if (::testing::UnitTest::GetInstance()->total_test_suite_count() > 0) {
+        ADD_FAILURE() << problem;
+        return;
+    }
+    std::cerr << problem << std::endl;
+    std::abort();
+}
+
+bool HasSanitizerReport(const std::string& text)
+{
+    return text.find("Sanitizer:") != std::string::npos || text.find("runtime error:") != std::string::npos;
 }
 
 Json::Value ParseOrThrow(const std::string& text, const std::string& what)
@@ -129,7 +195,7 @@ CloudEmulator::CloudEmulator(Options options) : options_(std::move(options))
         throw std::runtime_error(std::string("mkdtemp: ") + std::strerror(errno));
     workDir_ = pattern;
     configPath_ = workDir_ + "/spacemgm.json";
-    const std::string stderrPath = workDir_ + "/stderr.txt";
+    stderrPath_ = workDir_ + "/stderr.txt";
 
     std::vector<std::string> args = {
         ExecutablePath(), "--port",   "0", "--fixture", FixturePath(options_.fixture),
@@ -143,48 +209,15 @@ CloudEmulator::CloudEmulator(Options options) : options_(std::move(options))
     if (options_.startDelayMs > 0)
         args.insert(args.end(), {"--start-delay-ms", std::to_string(options_.startDelayMs)});
 
-    int pipeFds[2];
-    if (::pipe2(pipeFds, O_CLOEXEC) != 0)
-        throw std::runtime_error(std::string("pipe: ") + std::strerror(errno));
-    pid_ = ::fork();
-    if (pid_ < 0)
-        throw std::runtime_error(std::string("fork: ") + std::strerror(errno));
-    if (pid_ == 0) {
-        ::dup2(pipeFds[1], STDOUT_FILENO);
-        int err = ::open(stderrPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-        if (err >= 0)
-            ::dup2(err, STDERR_FILENO);
-        std::vector<char*> argv;
-        for (auto& arg : args)
-            argv.push_back(arg.data());
-        argv.push_back(nullptr);
-        ::execv(argv[0], argv.data());
-        ::_exit(127);
-    }
-    ::close(pipeFds[1]);
-    stdoutFd_ = pipeFds[0];
-
-    std::string output;
-    auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    bool ready = false;
-    while (!ready && std::chrono::steady_clock::now() < deadline) {
-        pollfd fd{stdoutFd_, POLLIN, 0};
-        if (::poll(&fd, 1, 100) <= 0)
-            continue;
-        char buffer[4096];
-        ssize_t n = ::read(stdoutFd_, buffer, sizeof buffer);
-        if (n <= 0)
-            break;
-        output.append(buffer, static_cast<size_t>(n));
-        ready = output.find("\nready\n") != std::string::npos || output.rfind("ready\n", 0) == 0;
-    }
-    if (!ready) {
+    pid_ = Spawn(args, stderrPath_, stdoutFd_);
+    const std::string output = ReadUntilReady(stdoutFd_);
+    if (output.empty()) {
         ::kill(pid_, SIGKILL);
         ::waitpid(pid_, nullptr, 0);
         pid_ = -1;
-        std::string why = ReadFile(stderrPath);
+        std::string why = ReadFile(stderrPath_);
         std::filesystem::remove_all(workDir_);
-        throw std::runtime_error("spacemgm-cloud did not start: " + (why.empty() ? output : why));
+        throw std::runtime_error("spacemgm-cloud did not start: " + why);
     }
     std::istringstream lines(output);
     for (std::string line; std::getline(lines, line);) {
@@ -216,30 +249,54 @@ std::string CloudEmulator::BaseUrl(const std::string& service) const
 
 int CloudEmulator::Stop()
 {
-    if (pid_ < 0)
-        return -1;
-    ::kill(pid_, SIGTERM);
-    int status = 0;
-    auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-    while (::waitpid(pid_, &status, WNOHANG) == 0) {
-        if (std::chrono::steady_clock::now() > deadline) {
-            ::kill(pid_, SIGKILL);
-            ::waitpid(pid_, &status, 0);
-            break;
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    pid_ = -1;
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return EndWith(SIGTERM);
 }
 
 void CloudEmulator::Kill9()
 {
+    EndWith(SIGKILL);
+}
+
+std::string CloudEmulator::Stderr() const
+{
+    return ReadFile(stderrPath_);
+}
+
+int CloudEmulator::EndWith(int signal)
+{
     if (pid_ < 0)
-        return;
-    ::kill(pid_, SIGKILL);
-    ::waitpid(pid_, nullptr, 0);
+        return -1;
+    const pid_t pid = pid_;
     pid_ = -1;
+    ::kill(pid, signal);
+    int status = 0;
+    pid_t reaped = 0;
+    bool forced = false;
+    auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    while ((reaped = ::waitpid(pid, &status, WNOHANG)) == 0) {
+        if (std::chrono::steady_clock::now() > deadline) {
+            forced = true;
+            ::kill(pid, SIGKILL);
+            reaped = ::waitpid(pid, &status, 0);
+            break;
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    // A test that reaped the process itself leaves only stderr to read.
+    const bool known = reaped == pid;
+    std::string problem;
+    if (known && WIFSIGNALED(status) && !(WTERMSIG(status) == SIGKILL && (signal == SIGKILL || forced)))
+        problem = "spacemgm-cloud crashed with signal " + std::to_string(WTERMSIG(status));
+    else if (forced)
+        problem = "spacemgm-cloud did not stop within 5 s of SIGTERM";
+    else if (known && signal == SIGTERM && WIFEXITED(status) && WEXITSTATUS(status) != 0)
+        problem = "spacemgm-cloud exited with status " + std::to_string(WEXITSTATUS(status)) + " on SIGTERM";
+    const std::string errors = ReadFile(stderrPath_);
+    if (HasSanitizerReport(errors))
+        problem += (problem.empty() ? "" : "; ") + std::string("spacemgm-cloud reported a sanitizer error");
+    if (!problem.empty())
+        ReportProblem(problem + "\n--- its stderr ---\n" + errors.substr(0, 16000));
+    return known && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 Json::Value CloudEmulator::Admin(const std::string& method, const std::string& what,

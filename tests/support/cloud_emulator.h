@@ -8,16 +8,23 @@
 //   Json::Value requests = cloud.RequestLog();        // what the module sent, with verdicts
 //
 // The constructor starts the emulator on a free loopback port, waits until it
-// has printed "ready" (10 s at most) and throws std::runtime_error with the
+// has printed "ready" (30 s at most) and throws std::runtime_error with the
 // emulator's own message if it cannot start. The destructor stops it with
 // SIGTERM (SIGKILL after 5 s) and removes its working folder.
+//
+// The emulator's health is part of every test that uses it: when it stops
+// (Stop, Kill9 or the destructor), a sanitizer report on its stderr, a
+// crash, an exit status other than 0 after SIGTERM, or a stop that needed
+// SIGKILL fails the running test (a GoogleTest failure, with the emulator's
+// stderr); outside GoogleTest, as in a benchmark, it ends the program.
 //
 // Service names are those of the host configuration: "nsp", "basic",
 // "portal", "cloudPhoto", "cbs", "pimds", "familyShare", "cloudSyncDrive",
 // "accountQuota", "omConfig". Fixtures: "sample", "empty", "full", "v2",
 // "many", "cn" (cloud/fixtures/<name>.json) or a path to a JSON file.
 //
-// Uses only libcurl, jsoncpp and POSIX: it does not depend on the module.
+// Uses only libcurl, jsoncpp, GoogleTest and POSIX: it does not depend on the
+// module.
 #include <map>
 #include <string>
 #include <sys/types.h>
@@ -83,11 +90,15 @@ public:
     int Stop();
     // SIGKILL, for crash tests; waits for the process to end.
     void Kill9();
+    // What the emulator has written to stderr so far.
+    std::string Stderr() const;
 
     static std::string FixturePath(const std::string& nameOrPath);
     static std::string ExecutablePath();
 
 private:
+    // Reaps the process after `signal` (SIGTERM or SIGKILL) and checks its health.
+    int EndWith(int signal);
     Json::Value Admin(const std::string& method, const std::string& what, const std::string& body = "") const;
 
     Options options_;
@@ -96,6 +107,7 @@ private:
     int port_ = 0;
     std::string root_;
     std::string workDir_;
+    std::string stderrPath_;
     std::string configPath_;
     std::string caFile_;
     std::map<std::string, std::string> services_;
