@@ -25,7 +25,12 @@ Emulator::Emulator(Options options, std::unique_ptr<MemoryAccountStore> store, F
 {
 }
 
-Emulator::~Emulator() = default;
+Emulator::~Emulator()
+{
+    // Never listened: the workers were not handed over, and must be joined.
+    if (workers_)
+        workers_->shutdown();
+}
 
 // The CA goes where --ca-file says, else beside the host configuration,
 // else to /tmp.
@@ -64,9 +69,9 @@ bool Emulator::Bind(std::string& error)
         error = "the server could not be set up";
         return false;
     }
-    const int threads = options_.threads;
+    workers_ = std::make_unique<httplib::ThreadPool>(static_cast<size_t>(options_.threads));
     // httplib owns the queue it asks for and deletes it itself.
-    server_->new_task_queue = [threads] { return new httplib::ThreadPool(static_cast<size_t>(threads)); };
+    server_->new_task_queue = [this] { return workers_.release(); };
     server_->set_keep_alive_max_count(100000);
     server_->set_keep_alive_timeout(30);
     server_->set_read_timeout(30, 0);
@@ -103,15 +108,19 @@ std::string Emulator::ServiceUrl(const std::string& service) const
 
 bool Emulator::Run()
 {
-    if (options_.startDelayMs > 0)
-        std::this_thread::sleep_for(std::chrono::milliseconds(options_.startDelayMs));
-    const bool served = server_->listen_after_bind();
+    // A stop during the start delay ends it: the accept loop never starts.
+    const auto acceptFrom =
+        std::chrono::steady_clock::now() + std::chrono::milliseconds(options_.startDelayMs);
+    while (!stopRequested_ && std::chrono::steady_clock::now() < acceptFrom)
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    const bool served = stopRequested_ || server_->listen_after_bind();
     runReturned_ = true;
     return served;
 }
 
 void Emulator::Stop()
 {
+    stopRequested_ = true;
     dispatcher_.BeginStop();
     if (!server_)
         return;

@@ -39,8 +39,12 @@ private:
     Options options_;
     Dispatcher dispatcher_;
     std::unique_ptr<httplib::Server> server_;
+    // Made before "ready", so that the accept loop starts at once (64 threads
+    // take a while under ThreadSanitizer); httplib takes them when it listens.
+    std::unique_ptr<httplib::ThreadPool> workers_;
     std::string caFile_;
     int port_ = 0;
+    std::atomic<bool> stopRequested_{false};
     std::atomic<bool> runReturned_{false};
 };
 
