@@ -38,13 +38,13 @@ CloudTestClient::CloudTestClient(const CloudEmulator& cloud, const std::string& 
 
 CloudReply CloudTestClient::Send(const std::string& service, const std::string& method,
                                  const std::string& pathAndQuery, const std::string& body,
-                                 const std::function<void(HeaderList&)>& tweak) const
+                                 const std::function<void(HeaderList&)>& tweak, long timeoutMs) const
 {
     HeaderList headers = ModuleHeaders(service, session_);
     if (tweak)
         tweak(headers);
-    HttpResult r =
-        HttpExchange(method, cloud_.BaseUrl(service) + pathAndQuery, headers, body, cloud_.CaFile());
+    HttpResult r = HttpExchange(method, cloud_.BaseUrl(service) + pathAndQuery, headers, body,
+                                cloud_.CaFile(), timeoutMs);
     CloudReply reply;
     reply.status = r.status;
     reply.body = r.body;

@@ -27,7 +27,8 @@ public:
 
     // `tweak` may change the headers before sending.
     CloudReply Send(const std::string& service, const std::string& method, const std::string& pathAndQuery,
-                    const std::string& body, const std::function<void(HeaderList&)>& tweak = nullptr) const;
+                    const std::string& body, const std::function<void(HeaderList&)>& tweak = nullptr,
+                    long timeoutMs = 10000) const;
 
     CloudReply QuotaQuery(const std::string& q, const std::string& serviceType) const;
     CloudReply Nsp(const std::string& op, const std::vector<std::pair<std::string, std::string>>& rest) const;

@@ -176,6 +176,11 @@ TEST_F(StateFile, KillNineDuringAStreamOfDeletionsNeverLeavesABrokenFile)
                 ++done;
             }
         });
+        // The kill lands a random moment after the first deletion: on a slow
+        // build (ThreadSanitizer) the first one alone takes longer than the window.
+        const auto firstDeadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        while (done == 0 && std::chrono::steady_clock::now() < firstDeadline)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
         std::this_thread::sleep_for(std::chrono::milliseconds(5 + random() % 40));
         cloud.Kill9();
         stop = true;

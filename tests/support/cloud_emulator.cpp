@@ -73,11 +73,12 @@ pid_t Spawn(std::vector<std::string>& args, const std::string& stderrPath, int& 
 }
 
 // The emulator's announcement up to its "ready" line; empty when it ends or
-// stays silent for 30 s (a large fixture under a sanitizer takes a while).
+// stays silent for 90 s (a large fixture under ThreadSanitizer on a busy
+// machine takes a while; an emulator that fails ends at once).
 std::string ReadUntilReady(int stdoutFd)
 {
     std::string output;
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(90);
     while (std::chrono::steady_clock::now() < deadline) {
         pollfd fd{stdoutFd, POLLIN, 0};
         if (::poll(&fd, 1, 100) <= 0)
@@ -286,16 +287,19 @@ int CloudEmulator::EndWith(int signal)
     const bool known = reaped == pid;
     std::string problem;
     if (known && WIFSIGNALED(status) && !(WTERMSIG(status) == SIGKILL && (signal == SIGKILL || forced)))
-        problem = "spacemgm-cloud crashed with signal " + std::to_string(WTERMSIG(status));
+        problem = "crashed with signal " + std::to_string(WTERMSIG(status));
     else if (forced)
-        problem = "spacemgm-cloud did not stop within 5 s of SIGTERM";
+        problem = "did not stop within 5 s of SIGTERM";
     else if (known && signal == SIGTERM && WIFEXITED(status) && WEXITSTATUS(status) != 0)
-        problem = "spacemgm-cloud exited with status " + std::to_string(WEXITSTATUS(status)) + " on SIGTERM";
+        problem = "exited with status " + std::to_string(WEXITSTATUS(status)) + " on SIGTERM";
     const std::string errors = ReadFile(stderrPath_);
     if (HasSanitizerReport(errors))
-        problem += (problem.empty() ? "" : "; ") + std::string("spacemgm-cloud reported a sanitizer error");
+        problem += (problem.empty() ? "" : "; ") + std::string("a sanitizer reported an error");
+    // Under a sanitizer a crash is a report and an exit status of its own, so
+    // every kind of failure starts with the same words.
     if (!problem.empty())
-        ReportProblem(problem + "\n--- its stderr ---\n" + errors.substr(0, 16000));
+        ReportProblem("spacemgm-cloud failed: " + problem + "\n--- its stderr ---\n" +
+                      errors.substr(0, 16000));
     return known && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 

@@ -8,7 +8,7 @@
 //   Json::Value requests = cloud.RequestLog();        // what the module sent, with verdicts
 //
 // The constructor starts the emulator on a free loopback port, waits until it
-// has printed "ready" (30 s at most) and throws std::runtime_error with the
+// has printed "ready" (90 s at most) and throws std::runtime_error with the
 // emulator's own message if it cannot start. The destructor stops it with
 // SIGTERM (SIGKILL after 5 s) and removes its working folder.
 //
