@@ -374,6 +374,25 @@ void ReadServed(const Reader& r, const Json::Value& root, AccountData& account)
     }
 }
 
+// Every text of the file, keys included, must be UTF-8, as JSON text is:
+// anything else would come back changed from the state file, since the
+// writer escapes what it decodes.
+void RequireUtf8(const Reader& r, const Json::Value& value, const std::string& place)
+{
+    if (value.isString() && !IsUtf8(value.asString()))
+        r.Fail(place, "must be UTF-8 text");
+    if (value.isArray())
+        for (Json::ArrayIndex i = 0; i < value.size(); ++i)
+            RequireUtf8(r, value[i], Reader::At(place, i));
+    if (value.isObject()) {
+        for (const auto& name : value.getMemberNames()) {
+            if (!IsUtf8(name))
+                r.Fail(place, "has a key that is not UTF-8 text");
+            RequireUtf8(r, value[name], Reader::Join(place, name));
+        }
+    }
+}
+
 // Every byte the quota groups add up, so that their sums cannot overflow
 // later; false when the total does not fit in 64 bits.
 bool SizesFit(const AccountData& account)
@@ -398,6 +417,7 @@ bool SizesFit(const AccountData& account)
 AccountData AccountFromJson(const Json::Value& root, const std::string& file)
 {
     Reader r(file);
+    RequireUtf8(r, root, "");
     r.Object(root, "",
              {"name", "session", "quota", "gallery", "drive", "about", "pim", "backup", "messages", "files",
               "folders", "omConfig", "faults"});

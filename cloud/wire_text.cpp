@@ -282,6 +282,41 @@ std::string WriteStyledJson(const Json::Value& value)
     return Json::writeString(builder, value) + "\n";
 }
 
+namespace {
+
+// The length of the UTF-8 sequence at text[at], or 0 when it is not one.
+size_t Utf8SequenceAt(const std::string& text, size_t at)
+{
+    const auto byte = [&](size_t i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned char lead = byte(at);
+    if (lead < 0x80)
+        return 1;
+    const size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
+    if (length == 0 || lead > 0xF4 || at + length > text.size())
+        return 0;
+    for (size_t i = 1; i < length; ++i)
+        if ((byte(at + i) & 0xC0) != 0x80)
+            return 0;
+    const unsigned char second = byte(at + 1);
+    if ((lead == 0xE0 && second < 0xA0) || (lead == 0xED && second >= 0xA0) ||
+        (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second >= 0x90))
+        return 0; // overlong, surrogate, or past U+10FFFF
+    return length;
+}
+
+} // namespace
+
+bool IsUtf8(const std::string& text)
+{
+    for (size_t at = 0; at < text.size();) {
+        const size_t length = Utf8SequenceAt(text, at);
+        if (length == 0)
+            return false;
+        at += length;
+    }
+    return true;
+}
+
 std::string ToLower(std::string text)
 {
     std::transform(text.begin(), text.end(), text.begin(),

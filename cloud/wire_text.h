@@ -50,6 +50,10 @@ std::string OneLineParseError(const std::string& error);
 std::string WriteCompactJson(const Json::Value& value);
 std::string WriteStyledJson(const Json::Value& value);
 
+// Whether `text` is well-formed UTF-8: no stray or missing continuation
+// bytes, no overlong forms, no surrogates, nothing past U+10FFFF.
+bool IsUtf8(const std::string& text);
+
 std::string ToLower(std::string text);
 bool StartsWith(const std::string& text, const std::string& prefix);
 bool EndsWith(const std::string& text, const std::string& suffix);

@@ -13,6 +13,7 @@
 #include <unistd.h>
 
 #include "cloud_test_client.h"
+#include "emulator_process.h"
 
 namespace spacemgm_test {
 namespace {
@@ -53,10 +54,14 @@ protected:
         std::remove(path.c_str());
         rmdir(dir.c_str());
     }
+    // Runs the emulator on `text` until it ends, at most 20 s: an emulator
+    // that accepts the fixture fails the test instead of serving forever.
     RunResult Load(const std::string& text)
     {
-        std::ofstream(path) << text;
-        return RunEmulator("--port 0 --fixture '" + path + "'");
+        std::ofstream(path, std::ios::binary) << text;
+        RunResult result;
+        result.exitCode = RunEmulatorToEnd({"--port", "0", "--fixture", path}, result.output, 20);
+        return result;
     }
     std::string dir;
     std::string path;
@@ -108,6 +113,19 @@ TEST_F(BadFixture, DriveBinLargerThanTheDriveIsRefused)
     EXPECT_NE(r.output.find("drive.recycleBytes"), std::string::npos) << r.output;
 }
 
+// A byte that is not UTF-8 would come back changed from the state file (the
+// writer escapes what it decodes), so it is refused where it stands.
+TEST_F(BadFixture, TextThatIsNotUtf8IsRefused)
+{
+    Json::Value f = ReadFixture("sample");
+    f["files"][0]["path"] = "/Sync/note/@.json";
+    std::string text = CompactJson(f);
+    text.replace(text.find('@'), 1, "\x82i"); // raw: the JSON writer would escape it into valid text
+    RunResult r = Load(text);
+    EXPECT_EQ(r.exitCode, 2) << r.output;
+    EXPECT_NE(r.output.find(path + ": files[0].path: must be UTF-8 text"), std::string::npos) << r.output;
+}
+
 TEST_F(BadFixture, NestedTwoHundredThousandDeepIsRefusedWithoutACrash)
 {
     RunResult r = Load(R"({"omConfig":)" + std::string(200000, '[') + std::string(200000, ']') + "}");
@@ -120,8 +138,9 @@ TEST_F(BadFixture, NestedStateFileIsRefusedWithoutACrash)
 {
     const std::string state = dir + "/state.json";
     std::ofstream(state) << std::string(200000, '[');
-    RunResult r = RunEmulator("--port 0 --fixture '" + CloudEmulator::FixturePath("sample") + "' --state '" +
-                              state + "'");
+    RunResult r;
+    r.exitCode = RunEmulatorToEnd(
+        {"--port", "0", "--fixture", CloudEmulator::FixturePath("sample"), "--state", state}, r.output, 20);
     std::remove(state.c_str());
     EXPECT_EQ(r.exitCode, 2) << r.output.substr(0, 2000);
     EXPECT_NE(r.output.find(state + ": (root): not JSON"), std::string::npos) << r.output.substr(0, 2000);
