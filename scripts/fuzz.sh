@@ -2,25 +2,19 @@
 # Builds the libFuzzer targets with clang and runs each one for a short time.
 # Usage: scripts/fuzz.sh [seconds per target, default 20]
 #
-# A fuzzer with seeds starts from them: the JSON files of its seed folder
-# (up to 64 KiB each) are copied into build-fuzz/seeds/<fuzzer>, its
-# dictionary is passed with -dict, and -max_len grows to the largest seed.
-# What the fuzzer finds worth keeping goes to build-fuzz/corpus/<fuzzer>.
+# A fuzzer starts from its seeds where it has them: the JSON files (up to
+# 64 KiB each) of fuzz/corpus/<fuzzer>/ and of its extra seed folder below
+# are copied into build-fuzz/seeds/<fuzzer>, fuzz/corpus/<fuzzer>.dict is
+# passed with -dict, and -max_len grows to the largest seed. What the fuzzer
+# finds worth keeping goes to build-fuzz/corpus/<fuzzer>.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds="${1:-20}"
 
-# The seed folder and the dictionary of a fuzzer, when it has them.
-seed_folder() {
+# Seeds that live elsewhere in the tree.
+extra_seeds() {
   case "$1" in
-    fuzz_record_reader) echo fuzz/corpus/records ;;  # scripts/capture-fuzz-corpus.sh writes it
     fuzz_fixture_reader) echo cloud/fixtures ;;
-  esac
-}
-dictionary() {
-  case "$1" in
-    fuzz_record_reader) echo fuzz/corpus/records.dict ;;
-    fuzz_fixture_reader) echo fuzz/corpus/fixtures.dict ;;
   esac
 }
 
@@ -38,16 +32,16 @@ for fuzzer in build-fuzz/fuzz/*/fuzz_*; do
   mkdir -p "$seeds"
   options=(-max_total_time="$seconds" -print_final_stats=1)
   max_len=4096
-  from=$(seed_folder "$name")
-  if [ -n "$from" ]; then
-    find "$from" -maxdepth 1 -name '*.json' -size -65537c -exec cp {} "$seeds/" \;
-    largest=$(find "$seeds" -type f -printf '%s\n' | sort -n | tail -n 1)
-    if [ -n "$largest" ] && [ "$largest" -gt "$max_len" ]; then
-      max_len=$largest
-    fi
+  for from in "fuzz/corpus/$name" $(extra_seeds "$name"); do
+    [ -d "$from" ] && find "$from" -maxdepth 1 -name '*.json' -size -65537c -exec cp {} "$seeds/" \;
+  done
+  largest=$(find "$seeds" -type f -printf '%s\n' | sort -n | tail -n 1)
+  if [ -n "$largest" ] && [ "$largest" -gt "$max_len" ]; then
+    max_len=$largest
   fi
   options+=(-max_len="$max_len")
-  dict=$(dictionary "$name")
+  dict="fuzz/corpus/$name.dict"
+  [ -f "$dict" ] || dict=""
   [ -n "$dict" ] && options+=(-dict="$dict")
   echo "fuzz: $name for ${seconds}s ($(find "$seeds" -type f | wc -l) seeds, -max_len=$max_len${dict:+, $dict})"
   if ! "$fuzzer" "${options[@]}" "$corpus" "$seeds" >"build-fuzz/$name.log" 2>&1; then

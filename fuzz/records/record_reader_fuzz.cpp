@@ -5,8 +5,9 @@
 // keep nested JSON as styled text, which grows on every pass.
 //
 // Every record reads every input, so an input is a reply as it came from the
-// wire: the seed corpus (fuzz/corpus/records/) holds the emulator's real
-// replies and the dictionary (fuzz/corpus/records.dict) their keys.
+// wire: the seed corpus (fuzz/corpus/fuzz_record_reader/) holds the
+// emulator's real replies, and the dictionary
+// (fuzz/corpus/fuzz_record_reader.dict) their keys.
 #include <cstddef>
 #include <cstdint>
 #include <functional>
