@@ -8,6 +8,18 @@ LoadSequence& LoadSequence::Instance()
     return sequence;
 }
 
+void LoadSequence::Announce()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    ++pending_;
+}
+
+void LoadSequence::Withdraw()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    --pending_;
+}
+
 void LoadSequence::Acquire()
 {
     std::unique_lock<std::mutex> lock(mutex_);
@@ -29,6 +41,7 @@ void LoadSequence::Release()
     {
         std::lock_guard<std::mutex> lock(mutex_);
         busy_ = false;
+        --pending_;
     }
     changed_.notify_all();
 }
@@ -46,4 +59,10 @@ bool LoadSequence::Busy() const
 {
     std::lock_guard<std::mutex> lock(mutex_);
     return busy_;
+}
+
+bool LoadSequence::Idle() const
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return pending_ <= 0;
 }

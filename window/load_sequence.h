@@ -8,12 +8,14 @@
 // its turn, and a turn ends once the window has handled the load's end
 // message (or the window is gone):
 //
+//   starter:        Announce -> thread started (Withdraw if it cannot be)
 //   load thread:    BEGIN posted -> Acquire -> requests -> END posted
 //                   -> WaitUntilConsumed -> Release
 //   window thread:  handles END -> Consumed
 //
 // One turn at a time in the whole process, as the quota singleton is shared
-// by every window.
+// by every window. Idle() tells automation that every announced load has
+// ended and its messages were handled.
 #include <condition_variable>
 #include <mutex>
 
@@ -24,17 +26,22 @@ class LoadSequence
 public:
     static LoadSequence& Instance();
 
+    // A load is about to start, or could not be started after all.
+    void Announce();
+    void Withdraw();
     // Blocks until no other load has the turn, then takes it.
     void Acquire();
     // After the end message was posted to `window`: blocks until the window
     // has handled it, or the window is gone (checked every 50 ms).
     void WaitUntilConsumed(HWND window);
-    // Gives the turn to the next load.
+    // Gives the turn to the next load; the announced load has ended.
     void Release();
     // Window thread, once it has read the model after an end message.
     void Consumed();
     // Whether a load has the turn.
     bool Busy() const;
+    // No announced load is waiting for its turn or running.
+    bool Idle() const;
 
 private:
     LoadSequence() = default;
@@ -43,9 +50,10 @@ private:
     std::condition_variable changed_;
     bool busy_ = false;
     bool consumed_ = false;
+    int pending_ = 0;
 };
 
-// Holds a turn for one scope.
+// Holds a turn for one scope, for a load that was announced.
 class LoadTurn
 {
 public:

@@ -20,8 +20,10 @@ HWND MakeWindow()
 TEST(LoadSequence, ASecondLoadWaitsForTheFirstTurnToEnd)
 {
     LoadSequence& sequence = LoadSequence::Instance();
+    sequence.Announce();
     sequence.Acquire();
     std::atomic<bool> secondRan{false};
+    sequence.Announce();
     std::thread second([&] {
         LoadTurn turn;
         secondRan = true;
@@ -32,12 +34,28 @@ TEST(LoadSequence, ASecondLoadWaitsForTheFirstTurnToEnd)
     second.join();
     EXPECT_TRUE(secondRan.load());
     EXPECT_FALSE(sequence.Busy());
+    EXPECT_TRUE(sequence.Idle());
+}
+
+TEST(LoadSequence, IsIdleOnlyWhenEveryAnnouncedLoadHasEnded)
+{
+    LoadSequence& sequence = LoadSequence::Instance();
+    EXPECT_TRUE(sequence.Idle());
+    sequence.Announce();
+    EXPECT_FALSE(sequence.Idle());
+    sequence.Announce();
+    sequence.Withdraw();
+    sequence.Acquire();
+    EXPECT_FALSE(sequence.Idle());
+    sequence.Release();
+    EXPECT_TRUE(sequence.Idle());
 }
 
 TEST(LoadSequence, ATurnEndsWhenTheWindowHasHandledTheEndMessage)
 {
     LoadSequence& sequence = LoadSequence::Instance();
     const HWND window = MakeWindow();
+    sequence.Announce();
     sequence.Acquire();
     std::atomic<bool> returned{false};
     std::thread load([&] {
@@ -57,6 +75,7 @@ TEST(LoadSequence, ATurnEndsWhenTheWindowIsGone)
 {
     LoadSequence& sequence = LoadSequence::Instance();
     const HWND window = MakeWindow();
+    sequence.Announce();
     sequence.Acquire();
     std::thread load([&] { sequence.WaitUntilConsumed(window); });
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
@@ -70,6 +89,7 @@ TEST(LoadSequence, AConsumptionBeforeTheNextTurnDoesNotCarryOver)
 {
     LoadSequence& sequence = LoadSequence::Instance();
     sequence.Consumed();
+    sequence.Announce();
     sequence.Acquire();
     const HWND window = MakeWindow();
     std::atomic<bool> returned{false};
