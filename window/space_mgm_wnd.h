@@ -97,7 +97,6 @@ private:
     // Frame (space_mgm_wnd.cpp, space_mgm_wnd_load.cpp).
     bool CheckResources();
     void FindControls();
-    static bool ProbeNetwork();
     void StartNetworkWatch();
     void StopNetworkWatch();
     bool StartLoadThread(std::unique_ptr<SpaceLoadParam> param);

@@ -26,7 +26,8 @@ void SpaceMgmWnd::AddBackupItem()
     list->SetVisible(true);
     list->RemoveAll();
     const WindowTexts texts = ToolkitTexts();
-    for (const BackUpModel model : m_viewModel->model->backups) {
+    const std::vector<BackUpModel> backups = m_viewModel->model->backups;
+    for (const BackUpModel& model : backups) {
         const std::wstring name = BackupRowName(model, texts);
         const std::wstring size = BackupRowSize(model);
         CDialogBuilder builder;

@@ -1,6 +1,7 @@
 // The category list and the panel beside it: rows, selection, the panel's
 // lines and button, and what the button does.
 #include "platform/logger.h"
+#include "window/backup_list_ui.h"
 #include "window/detail_pages.h"
 #include "window/error_wnd.h"
 #include "window/operation_records.h"

@@ -142,20 +142,9 @@ void SpaceMgmWnd::ShowFailedPage()
         ShowPage(PageFailed);
 }
 
-bool SpaceMgmWnd::ProbeNetwork()
-{
-    // Offline unless both calls say online; the second is not asked when the
-    // first says offline.
-    DWORD aliveFlags = 0;
-    if (!::IsNetworkAlive(&aliveFlags))
-        return false;
-    DWORD stateFlags = 0;
-    return ::InternetGetConnectedState(&stateFlags, 0) != FALSE;
-}
-
 void SpaceMgmWnd::StartNetworkWatch()
 {
-    const bool alive = ProbeNetwork();
+    const bool alive = NetworkChecker::ProbeNetwork();
     if (NetworkChecker::networkAlive != alive)
         NetworkChecker::networkAlive = alive;
     WindowLog(Logger::_DEBUG, __LINE__, "NetworkChecker::CheckNetwork",

@@ -110,11 +110,12 @@ TEST(UsageBar, TheAnimationTakesThirtyOneTicks)
 
 TEST(UsageBar, TheFullAccountShowsOnlyTheFullSegmentAndTheWarning)
 {
-    SpaceWindowSession session(SessionOptions{"full"});
+    SpaceWindowSession session(SessionOptions::Fixture("full"));
     ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
     EXPECT_TRUE(session.Shown(kFullBar));
-    EXPECT_EQ(Bar(session, kFullBar)->GetFixedWidth(), 530);
-    EXPECT_EQ(Bar(session, kFullBar)->GetValue(), 530);
+    // 10 MiB short of the quota: 529.96 pixels, cut to 529.
+    EXPECT_EQ(Bar(session, kFullBar)->GetFixedWidth(), 529);
+    EXPECT_EQ(Bar(session, kFullBar)->GetValue(), 529);
     EXPECT_EQ(Bar(session, kFullBar)->GetForeColor(), 0xFFFA2A2Du);
     for (const BarSegment& segment : BarSegments())
         EXPECT_FALSE(session.Shown(segment.bar)) << segment.key;
@@ -137,7 +138,7 @@ TEST(UsageBar, AFullLengthWithTheOtherGroupsAtZeroShowsTheWarningInsteadOfTheLeg
 
 TEST(UsageBar, AFullColourWithoutAFullLengthHidesTheFullSegmentAndShowsTheLegend)
 {
-    SpaceWindowSession session(SessionOptions{"full"});
+    SpaceWindowSession session(SessionOptions::Fixture("full"));
     ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
     ASSERT_TRUE(session.Shown(kFullBar));
     Display display;
@@ -256,6 +257,7 @@ TEST(UsageBar, AGroupOfExactly4GiBHidesItsLegendRow)
 {
     SessionOptions options;
     options.fixture = MakeFixture("family-4gib", [](Json::Value& account) {
+        account["quota"]["total"] = Json::UInt64(200 * kGiB);
         account["quota"]["family"] = Json::UInt64(4 * kGiB);
         account["gallery"]["bytes"] = Json::UInt64(kGiB);
     });

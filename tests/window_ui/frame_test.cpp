@@ -2,15 +2,18 @@
 // answer to the host, messages, and resources that cannot be used.
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <set>
+#include <thread>
 
 #include "space_window_session.h"
 #include "window/load_sequence.h"
 #include "window/operation_records.h"
 #include "window/space_list_ui.h"
+#include "window/usage_bar.h"
 
 namespace {
 
@@ -77,7 +80,7 @@ TEST(SpaceWindowFrame, TheSampleAccountShowsEveryCategoryWithTheCloudBackupRowSe
 
 TEST(SpaceWindowFrame, TheEmptyAccountShowsTheEmptyPage)
 {
-    SpaceWindowSession session(SessionOptions{"empty"});
+    SpaceWindowSession session(SessionOptions::Fixture("empty"));
     ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
     EXPECT_EQ(session.TabPage(L"tab_switch"), PageEmpty);
     EXPECT_TRUE(session.Shown(L"empty_title"));
@@ -317,4 +320,84 @@ TEST(SpaceWindowFrame, ABrokenLanguageFileFailsCreationNamingFileAndLine)
     EXPECT_FALSE(session.Open());
     EXPECT_NE(session.CreateError().find("Res/lang/ru-RU.json:3:"), std::string::npos)
         << session.CreateError();
+}
+
+TEST(SpaceWindowFrame, ItsLogLinesCarryModule7TheirSeverityAndFunction)
+{
+    SpaceWindowSession session;
+    ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
+    ASSERT_TRUE(session.ClickRow(session.RowOf(Gallery)));
+    struct Expected
+    {
+        const char* function;
+        std::string messageStart;
+        int severity;
+        bool flush;
+    };
+    const Expected lines[] = {
+        {"NetworkChecker::CheckNetwork", "Network status is OK.", 1, false},
+        {"SpaceMgmWnd::UpdateProgress", "UpdateProgress", 2, true},
+        {"SpaceMgmWnd::OnShowCloudSpace", "m_used = 120 GB, m_total = 200 GB", 2, true},
+        {"SpaceMgmWnd::OnShowCloudSpace", "backup = ", 2, true},
+        {"SpaceMgmWnd::OnShowCloudSpace", "other = 17179869184", 2, true},
+        {"SpaceMgmWnd::ShowItemPage", "szItemName = ", 2, true},
+    };
+    for (const Expected& expected : lines) {
+        bool found = false;
+        for (const Logger::Record& record : session.sink().Records()) {
+            if (record.function != expected.function || record.message.rfind(expected.messageStart, 0) != 0)
+                continue;
+            found = true;
+            EXPECT_EQ(record.module, 7) << expected.messageStart;
+            EXPECT_EQ(record.severity, expected.severity) << expected.messageStart;
+            EXPECT_EQ(record.flush, expected.flush) << expected.messageStart;
+        }
+        EXPECT_TRUE(found) << expected.function << ": " << expected.messageStart;
+    }
+    const auto items = session.LogLines("SpaceMgmWnd::ShowItemPage");
+    ASSERT_FALSE(items.empty());
+    EXPECT_EQ(items.back().find("szItemName = Gallery, szRemark = , szItemSize = "), 0u) << items.back();
+}
+
+TEST(SpaceWindowFrame, AQuotaOfZeroBytesLeavesTheBarAndTheLineAsTheyWereAndTheLoadGoesOn)
+{
+    SessionOptions options;
+    options.faults = {
+        ReplyRule("accountQuota", "",
+                  "{\"retCode\":0,\"used\":0,\"available\":0,\"total\":0,\"backup\":0,\"drive\":0,"
+                  "\"photos\":0,\"other\":0,\"family\":0}")};
+    SpaceWindowSession session(options);
+    ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
+    const auto errors = session.LogLines("SpaceMgmWnd::UpdateProgress");
+    EXPECT_NE(std::find(errors.begin(), errors.end(), "UpdateDisplayData Error!"), errors.end());
+    EXPECT_TRUE(session.LogLines("SpaceMgmWnd::OnShowCloudSpace").empty());
+    for (const BarSegment& segment : BarSegments())
+        EXPECT_FALSE(session.Shown(segment.bar)) << segment.key;
+    EXPECT_EQ(session.TabPage(L"tab_switch"), PageContent);
+    EXPECT_EQ(session.SpaceRowCount(), 12);
+}
+
+TEST(SpaceWindowFrame, ClosingWhileTheNetworkComesAndGoesNeverWaitsOnTheWatcher)
+{
+    SessionOptions options;
+    options.networkMode = "file";
+    SpaceWindowSession session(options);
+    ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
+    std::atomic<bool> flapping{true};
+    std::thread flapper([&] {
+        bool online = false;
+        while (flapping) {
+            session.SetNetwork(online);
+            online = !online;
+            std::this_thread::sleep_for(std::chrono::milliseconds(7));
+        }
+    });
+    uitest::Pump(200);
+    const auto start = Clock::now();
+    session.CloseWindow();
+    const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start).count();
+    flapping = false;
+    flapper.join();
+    EXPECT_FALSE(session.IsOpen());
+    EXPECT_LT(took, 2000);
 }

@@ -17,6 +17,11 @@ struct Look
     int dpi;
 };
 
+void PrintTo(const Look& look, std::ostream* out)
+{
+    *out << attr::Narrow(look.language) << " at " << look.dpi << " dpi";
+}
+
 std::string NameOf(const Look& look)
 {
     std::string name = attr::Narrow(look.language);

@@ -41,12 +41,14 @@ void ExpectPanelShows(SpaceWindowSession& session, const SpaceInfo& info)
         EXPECT_EQ(session.Shown(L"itemInfo1"), !info.szInfo1.empty()) << what;
         EXPECT_EQ(session.TextOf(L"itemInfo1"), info.szInfo1) << what;
         EXPECT_EQ(session.Shown(L"itemInfo2"), !info.szInfo2.empty()) << what;
-        if (!info.szInfo2.empty())
+        if (!info.szInfo2.empty()) {
             EXPECT_EQ(session.TextOf(L"itemInfo2"), info.szInfo2) << what;
+        }
     }
     EXPECT_EQ(session.Shown(L"opr_btn"), !info.szBtnText.empty()) << what;
-    if (!info.szBtnText.empty())
+    if (!info.szBtnText.empty()) {
         EXPECT_EQ(session.TextOf(L"opr_btn"), info.szBtnText) << what;
+    }
     EXPECT_FALSE(info.szInfo1.empty()) << what;
 }
 
@@ -106,8 +108,9 @@ TEST(SpaceWindowSessionEndToEnd, ASessionWithTheSampleAccount)
     for (int i = 0; i < session.SpaceRowCount(); ++i) {
         const SpaceInfo info = RowInfo(session, i);
         const std::size_t before = session.Records(kSelectionEvents.at(info.type)).size();
-        if (i != 0)
+        if (i != 0) {
             ASSERT_TRUE(session.ClickRow(i));
+        }
         ExpectPanelShows(session, info);
         const auto records = session.Records(kSelectionEvents.at(info.type));
         ASSERT_EQ(records.size(), i == 0 ? before : before + 1) << attr::Narrow(info.szItemName);
@@ -158,8 +161,9 @@ TEST(SpaceWindowSessionEndToEnd, ASessionWithTheSampleAccount)
     });
     driver.Add([] { return ErrorWnd::GetActiveToast() == nullptr; });
     ASSERT_TRUE(session.ClickControl(L"opr_btn"));
+    // The click returns once the toast has closed and its engine stopped.
     const auto toastGone = Clock::now();
-    EXPECT_TRUE(driver.Done());
+    EXPECT_TRUE(uitest::PumpUntil([&] { return driver.Done(); }, 1000));
     EXPECT_EQ(toastText, ToolkitText(L"IDS_SPACEMANAGEMENT_DELETE_FAILED"));
     const auto shown = std::chrono::duration_cast<std::chrono::milliseconds>(toastGone - toastSeen).count();
     EXPECT_GE(shown, 2700);

@@ -32,6 +32,13 @@ struct SessionOptions
     // "online" or "offline" into; starts online).
     std::string networkMode = "online";
     bool replaceCommaCountry = false;
+
+    static SessionOptions Fixture(std::string name)
+    {
+        SessionOptions options;
+        options.fixture = std::move(name);
+        return options;
+    }
 };
 
 class SpaceWindowSession
