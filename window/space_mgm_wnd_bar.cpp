@@ -4,6 +4,7 @@
 
 #include "foundation/utilities.h"
 #include "platform/global_param_wrapper.h"
+#include "window/display_handover.h"
 #include "window/size_texts.h"
 #include "window/space_mgm_wnd.h"
 #include "window/toolkit_texts.h"
@@ -26,7 +27,8 @@ template <class Map> typename Map::mapped_type ValueOr0(const Map& map, const st
 
 long long SpaceMgmWnd::OnShowCloudSpace(unsigned long long, long long lParam, int&)
 {
-    std::unique_ptr<SpaceDisplayData> data(reinterpret_cast<SpaceDisplayData*>(lParam));
+    std::unique_ptr<SpaceDisplayData> data =
+        DisplayHandover::Instance().Take(reinterpret_cast<SpaceDisplayData*>(lParam));
     if (!data)
         return 0;
     m_colorInfo = data->colorInfo;

@@ -5,6 +5,7 @@
 #include "foundation/network_checker.h"
 #include "platform/operation_manage_service.h"
 #include "space_data/cloud_space_query.h"
+#include "window/display_handover.h"
 #include "window/load_sequence.h"
 #include "window/page_logic.h"
 #include "window/space_list_ui.h"
@@ -63,6 +64,7 @@ void SpaceMgmWnd::RunLoad(std::unique_ptr<SpaceLoadParam> param)
     param->viewModel->GetCloudInfo();
     if (::IsWindow(hWnd) && ::PostMessageW(hWnd, WM_SPACE_LOAD_END, 0, 0))
         LoadSequence::Instance().WaitUntilConsumed(hWnd);
+    DisplayHandover::Instance().ReleaseUntaken(hWnd);
     param.reset();
 }
 
@@ -76,6 +78,7 @@ void SpaceMgmWnd::LoadData(void* param)
     LoadTurn turn;
     UpdateProgress(load->hWnd);
     load->viewModel->GetCloudInfo();
+    DisplayHandover::Instance().ReleaseUntaken(load->hWnd);
 }
 
 void SpaceMgmWnd::UpdateProgress(HWND hWnd)
@@ -94,8 +97,7 @@ void SpaceMgmWnd::UpdateProgress(HWND hWnd)
         return;
     }
     // The window owns the record once the post has succeeded.
-    if (::PostMessageW(hWnd, WM_SPACE_SHOW_CLOUD, 0, reinterpret_cast<LPARAM>(data.get())))
-        data.release();
+    DisplayHandover::Instance().Post(hWnd, std::move(data));
 }
 
 void SpaceMgmWnd::onLoadDataEnd()
