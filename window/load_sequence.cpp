@@ -38,20 +38,18 @@ void LoadSequence::WaitUntilConsumed(HWND window)
 
 void LoadSequence::Release()
 {
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        busy_ = false;
-        --pending_;
-    }
+    // Notified under the lock: whoever sees the load ended through the lock
+    // also sees this thread done with the condition variable.
+    std::lock_guard<std::mutex> lock(mutex_);
+    busy_ = false;
+    --pending_;
     changed_.notify_all();
 }
 
 void LoadSequence::Consumed()
 {
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        consumed_ = true;
-    }
+    std::lock_guard<std::mutex> lock(mutex_);
+    consumed_ = true;
     changed_.notify_all();
 }
 

@@ -97,6 +97,9 @@ private:
     // Frame (space_mgm_wnd.cpp, space_mgm_wnd_load.cpp).
     bool CheckResources();
     void FindControls();
+    // From another thread: runs `member` on the window thread, waits for it
+    // and returns true; on the window thread returns false.
+    bool HandedToWindowThread(void (SpaceMgmWnd::*member)());
     void StartNetworkWatch();
     void StopNetworkWatch();
     bool StartLoadThread(std::unique_ptr<SpaceLoadParam> param);

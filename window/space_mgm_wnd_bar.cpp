@@ -23,6 +23,19 @@ template <class Map> typename Map::mapped_type ValueOr0(const Map& map, const st
     return found != map.end() ? found->second : typename Map::mapped_type{};
 }
 
+// A missing segment is passed over, one of width 0 is only hidden; true for
+// a segment to size and show.
+bool ShowsSegment(CProgressUI* ctrl, int width)
+{
+    if (ctrl == nullptr)
+        return false;
+    if (width == 0) {
+        ctrl->SetVisible(false);
+        return false;
+    }
+    return true;
+}
+
 } // namespace
 
 long long SpaceMgmWnd::OnShowCloudSpace(unsigned long long, long long lParam, int&)
@@ -115,12 +128,8 @@ void SpaceMgmWnd::SetFirstProgress(CProgressUI* ctrl, int& length)
 
 void SpaceMgmWnd::SetProgressColor(CProgressUI* ctrl, int width, unsigned long color)
 {
-    if (ctrl == nullptr)
+    if (!ShowsSegment(ctrl, width))
         return;
-    if (width == 0) {
-        ctrl->SetVisible(false);
-        return;
-    }
     ctrl->SetFixedWidth(width);
     ctrl->SetMinValue(0);
     ctrl->SetMaxValue(width);
@@ -131,12 +140,8 @@ void SpaceMgmWnd::SetProgressColor(CProgressUI* ctrl, int width, unsigned long c
 
 void SpaceMgmWnd::SetProgress(CProgressUI* ctrl, int value, int width)
 {
-    if (ctrl == nullptr)
+    if (!ShowsSegment(ctrl, width))
         return;
-    if (width == 0) {
-        ctrl->SetVisible(false);
-        return;
-    }
     ctrl->SetFixedWidth(width);
     ctrl->SetMaxValue(width);
     ctrl->SetValue(std::min(value, width));

@@ -25,16 +25,23 @@ CTabLayoutUI* FindTab(CPaintManagerUI& pm, const wchar_t* name)
 
 } // namespace
 
+bool SpaceMgmWnd::HandedToWindowThread(void (SpaceMgmWnd::*member)())
+{
+    if (m_pm.IsWindowThread())
+        return false;
+    // The window's handle, geometry and controls belong to its thread; a
+    // window that is going away does nothing more.
+    m_pm.RunOnWindowThread([this, member] {
+        if (m_hWnd != nullptr)
+            (this->*member)();
+    });
+    return true;
+}
+
 void SpaceMgmWnd::ShowInfoPage()
 {
-    if (!m_pm.IsWindowThread()) {
-        // From the watcher: the window's handle and geometry belong to its thread.
-        m_pm.RunOnWindowThread([this] {
-            if (m_hWnd != nullptr)
-                ShowInfoPage();
-        });
+    if (HandedToWindowThread(&SpaceMgmWnd::ShowInfoPage))
         return;
-    }
     std::lock_guard<std::mutex> lock(m_loadMutex);
     auto param = std::make_unique<SpaceLoadParam>();
     param->hWnd = m_hWnd;
@@ -131,13 +138,8 @@ void SpaceMgmWnd::ShowRightPage(const PageType& page)
 
 void SpaceMgmWnd::ShowFailedPage()
 {
-    if (!m_pm.IsWindowThread()) {
-        m_pm.RunOnWindowThread([this] {
-            if (m_hWnd != nullptr)
-                ShowFailedPage();
-        });
+    if (HandedToWindowThread(&SpaceMgmWnd::ShowFailedPage))
         return;
-    }
     if (FailureViewFor(m_bLoaded) == FailureView::RightPanel)
         ShowRightPage(PageFailed);
     else

@@ -14,14 +14,6 @@ using namespace window_ui;
 
 constexpr long long kGiB = 1024LL * 1024 * 1024;
 
-std::wstring Bare(const wchar_t* key)
-{
-    std::wstring unit = ToolkitText(key);
-    for (std::size_t at = unit.find(L"%d"); at != std::wstring::npos; at = unit.find(L"%d"))
-        unit.erase(at, 2);
-    return unit;
-}
-
 std::shared_ptr<CloudSpaceItem> BackupItem(SpaceWindowSession& session)
 {
     for (const auto& item : session.viewModel().model->items) {
@@ -121,7 +113,7 @@ TEST(BackupPage, TwoDevicesOneDeletedLeavesOneRowAndTheSizeFallsByTheDeletedSize
     EXPECT_EQ(BackupItem(session)->space, before - first.size);
     EXPECT_EQ(BackupItem(session)->count, "1");
     const SpaceInfo& row = BackupRowInfo(session);
-    EXPECT_EQ(row.szRemark, L"1" + Bare(L"IDS_SPACEMANAGEMENT_NUMUNITS_ONE"));
+    EXPECT_EQ(row.szRemark, L"1" + BareUnit(L"IDS_SPACEMANAGEMENT_NUMUNITS_ONE"));
     EXPECT_EQ(row.szItemSize, SizeDisplayText(static_cast<double>(before - first.size), L"en-US"));
     EXPECT_EQ(row.szInfo1, ToolkitText(L"IDS_SPACEMANAGEMENT_BACKUP_HEADER2") + L" " + row.szItemSize);
     const auto records = session.Records(222);
@@ -151,7 +143,7 @@ TEST(BackupPage, AnEmptyCountBecomesZero)
     BackupItem(session)->count.clear();
     DeleteDevice(session, 1);
     EXPECT_EQ(BackupItem(session)->count, "0");
-    EXPECT_EQ(BackupRowInfo(session).szRemark, L"0" + Bare(L"IDS_SPACEMANAGEMENT_NUMUNITS_ONE"));
+    EXPECT_EQ(BackupRowInfo(session).szRemark, L"0" + BareUnit(L"IDS_SPACEMANAGEMENT_NUMUNITS_ONE"));
 }
 
 TEST(BackupPage, TheLastDeviceDeletedWithOtherCategoriesRemovesTheRowAndSelectsTheFirst)

@@ -58,6 +58,17 @@ std::string CopyOfResources(const std::string& name)
     return root.string();
 }
 
+// Opens a window over the copy `root` of the resources; the creation error.
+std::string CreationErrorWith(const std::string& root, SessionOptions options = {})
+{
+    SpaceWindowSession session(options);
+    CPaintManagerUI::SetInstancePath(attr::Widen(root).c_str());
+    EXPECT_FALSE(session.Open());
+    EXPECT_FALSE(session.IsOpen());
+    EXPECT_TRUE(LoadSequence::Instance().Idle());
+    return session.CreateError();
+}
+
 } // namespace
 
 TEST(SpaceWindowFrame, TheSampleAccountShowsEveryCategoryWithTheCloudBackupRowSelected)
@@ -112,7 +123,7 @@ TEST(SpaceWindowFrame, LosingTheNetworkBeforeTheFirstListShowsTheFailedPage)
 {
     SessionOptions options;
     options.networkMode = "file";
-    options.faults = {LatencyRule("accountQuota", 600)};
+    options.faults = {LatencyRule("accountQuota", 3000)};
     SpaceWindowSession session(options);
     ASSERT_TRUE(session.Open()) << session.CreateError();
     session.SetNetwork(false);
@@ -180,10 +191,7 @@ TEST(SpaceWindowFrame, TheUpgradeButtonLeaves3037And0AndExitCodeZero)
 {
     SpaceWindowSession session;
     ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
-    const POINT p = uitest::CentreOf(session.pm(), session.Control(L"update_btn"));
-    ::PostMessageW(session.hwnd(), WM_LBUTTONDOWN, 0, MAKELPARAM(p.x, p.y));
-    ::PostMessageW(session.hwnd(), WM_LBUTTONUP, 0, MAKELPARAM(p.x, p.y));
-    EXPECT_EQ(session.window().ShowModal(), 0u);
+    EXPECT_EQ(session.LeaveBy(L"update_btn"), 0u);
     EXPECT_EQ(session.window().m_jumpMessage, 3037);
     EXPECT_EQ(session.window().m_jumpParam, 0);
     bool logged = false;
@@ -201,10 +209,7 @@ TEST(SpaceWindowFrame, TheCloseButtonLeavesTheFieldsAtZeroAndExitCodeOne)
 {
     SpaceWindowSession session;
     ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
-    const POINT p = uitest::CentreOf(session.pm(), session.Control(L"btn_close"));
-    ::PostMessageW(session.hwnd(), WM_LBUTTONDOWN, 0, MAKELPARAM(p.x, p.y));
-    ::PostMessageW(session.hwnd(), WM_LBUTTONUP, 0, MAKELPARAM(p.x, p.y));
-    EXPECT_EQ(session.window().ShowModal(), 1u);
+    EXPECT_EQ(session.LeaveBy(L"btn_close"), 1u);
     EXPECT_EQ(session.window().m_jumpMessage, 0);
     EXPECT_EQ(session.window().m_jumpParam, 0);
     EXPECT_FALSE(session.window().m_hostFlag);
@@ -233,7 +238,7 @@ TEST(SpaceWindowFrame, AnyOtherMessageGoesThroughThePreMessageFiltersAndTheBase)
 TEST(SpaceWindowFrame, ALoadThatEndsWithTheWindowGonePostsNothingAndGivesUpItsTurn)
 {
     SessionOptions options;
-    options.faults = {LatencyRule("accountQuota", 500)};
+    options.faults = {LatencyRule("accountQuota", 2000)};
     SpaceWindowSession session(options);
     ASSERT_TRUE(session.Open()) << session.CreateError();
     session.CloseWindow();
@@ -276,12 +281,8 @@ TEST(SpaceWindowFrame, AMissingRowSkinFailsCreationNamingTheFile)
 {
     const std::string root = CopyOfResources("missing-row-skin");
     std::filesystem::remove(root + "/Res/skin/SpaceMgm/SpaceItem.xml");
-    SpaceWindowSession session;
-    CPaintManagerUI::SetInstancePath(attr::Widen(root).c_str());
-    EXPECT_FALSE(session.Open());
-    EXPECT_NE(session.CreateError().find("SpaceMgm/SpaceItem.xml"), std::string::npos)
-        << session.CreateError();
-    EXPECT_FALSE(session.IsOpen());
+    const std::string error = CreationErrorWith(root);
+    EXPECT_NE(error.find("SpaceMgm/SpaceItem.xml"), std::string::npos) << error;
 }
 
 TEST(SpaceWindowFrame, ABrokenWindowSkinFailsCreationNamingFileAndLine)
@@ -289,23 +290,16 @@ TEST(SpaceWindowFrame, ABrokenWindowSkinFailsCreationNamingFileAndLine)
     const std::string root = CopyOfResources("broken-skin");
     std::ofstream(root + "/Res/skin/SpaceMgm/SpaceMgmWnd.xml", std::ios::trunc)
         << "<Window size=\"10,10\">\n<VerticalLayout>\n<Label text=\"x\" \n</Window>\n";
-    SpaceWindowSession session;
-    CPaintManagerUI::SetInstancePath(attr::Widen(root).c_str());
-    EXPECT_FALSE(session.Open());
-    const std::string error = session.CreateError();
+    const std::string error = CreationErrorWith(root);
     EXPECT_NE(error.find("SpaceMgm/SpaceMgmWnd.xml:"), std::string::npos) << error;
-    EXPECT_EQ(LoadSequence::Instance().Idle(), true);
 }
 
 TEST(SpaceWindowFrame, AMissingRowIconFailsCreationNamingTheIcon)
 {
     const std::string root = CopyOfResources("missing-icon");
     std::filesystem::remove(root + "/Res/skin/SpaceMgm/wifi.svg");
-    SpaceWindowSession session;
-    CPaintManagerUI::SetInstancePath(attr::Widen(root).c_str());
-    EXPECT_FALSE(session.Open());
-    EXPECT_NE(session.CreateError().find("SpaceMgm/wifi.svg"), std::string::npos) << session.CreateError();
-    EXPECT_TRUE(LoadSequence::Instance().Idle());
+    const std::string error = CreationErrorWith(root);
+    EXPECT_NE(error.find("SpaceMgm/wifi.svg"), std::string::npos) << error;
 }
 
 TEST(SpaceWindowFrame, ABrokenLanguageFileFailsCreationNamingFileAndLine)
@@ -315,11 +309,8 @@ TEST(SpaceWindowFrame, ABrokenLanguageFileFailsCreationNamingFileAndLine)
         << "{\n  \"IDS_A\": \"a\",\n  \"IDS_B\" \"b\"\n}\n";
     SessionOptions options;
     options.language = L"ru-RU";
-    SpaceWindowSession session(options);
-    CPaintManagerUI::SetInstancePath(attr::Widen(root).c_str());
-    EXPECT_FALSE(session.Open());
-    EXPECT_NE(session.CreateError().find("Res/lang/ru-RU.json:3:"), std::string::npos)
-        << session.CreateError();
+    const std::string error = CreationErrorWith(root, options);
+    EXPECT_NE(error.find("Res/lang/ru-RU.json:3:"), std::string::npos) << error;
 }
 
 TEST(SpaceWindowFrame, ItsLogLinesCarryModule7TheirSeverityAndFunction)

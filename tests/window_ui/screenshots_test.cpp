@@ -96,12 +96,12 @@ TEST_P(WindowLooks, TheLoadingAndFailedPagesAndTheFailedPanel)
     Json::Value slow;
     slow["service"] = "accountQuota";
     slow["kind"] = "latency";
-    slow["latencyMs"] = 1500;
+    slow["latencyMs"] = 5000;
     options.faults = {slow};
     SpaceWindowSession session(options);
     session.SetNetwork(false);
     ASSERT_TRUE(session.Open()) << session.CreateError();
-    uitest::Pump(300);
+    uitest::Pump(100);
     ASSERT_EQ(session.TabPage(L"tab_switch"), PageLoading);
     ExpectTidy(session, "loading_" + NameOf(look));
     ASSERT_TRUE(session.WaitUntilSettled());

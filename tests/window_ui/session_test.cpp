@@ -70,32 +70,14 @@ bool Confirm(SpaceWindowSession& session, bool confirm, const wchar_t* button)
     return clicked && driver.Done();
 }
 
-void LeaveBy(SpaceWindowSession& session, const wchar_t* button, UINT exitCode, int32_t message,
-             int64_t param)
+// The first load offline ends on the failed page; back online, the list
+// comes by itself and the window is centred again.
+void OfflineThenOnline(SpaceWindowSession& session, RECT& centred)
 {
-    const POINT p = uitest::CentreOf(session.pm(), session.Control(button));
-    ::PostMessageW(session.hwnd(), WM_LBUTTONDOWN, 0, MAKELPARAM(p.x, p.y));
-    ::PostMessageW(session.hwnd(), WM_LBUTTONUP, 0, MAKELPARAM(p.x, p.y));
-    EXPECT_EQ(session.window().ShowModal(), exitCode) << attr::Narrow(button);
-    EXPECT_EQ(session.window().m_jumpMessage, message) << attr::Narrow(button);
-    EXPECT_EQ(session.window().m_jumpParam, param) << attr::Narrow(button);
-}
-
-} // namespace
-
-TEST(SpaceWindowSessionEndToEnd, ASessionWithTheSampleAccount)
-{
-    SessionOptions options;
-    options.networkMode = "file";
-    SpaceWindowSession session(options);
-
-    // Offline at first: the first load ends on the failed page.
     session.SetNetwork(false);
     ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
     EXPECT_EQ(session.TabPage(L"tab_switch"), PageFailed);
-    const RECT centred = session.window().GetWindowRect();
-
-    // Back online: a load by itself, the list, the window centred.
+    centred = session.window().GetWindowRect();
     ::MoveWindow(session.hwnd(), 0, 0, centred.right - centred.left, centred.bottom - centred.top, TRUE);
     session.SetNetwork(true);
     ASSERT_TRUE(uitest::PumpUntil([&] { return session.TabPage(L"tab_switch") == PageContent; }, 15000));
@@ -103,8 +85,11 @@ TEST(SpaceWindowSessionEndToEnd, ASessionWithTheSampleAccount)
     EXPECT_EQ(session.window().GetWindowRect().left, centred.left);
     EXPECT_EQ(session.window().GetWindowRect().top, centred.top);
     ASSERT_EQ(session.SpaceRowCount(), 12);
+}
 
-    // Every row in turn: its panel and its record.
+// Every row in turn: its panel and its record.
+void EveryRow(SpaceWindowSession& session)
+{
     for (int i = 0; i < session.SpaceRowCount(); ++i) {
         const SpaceInfo info = RowInfo(session, i);
         const std::size_t before = session.Records(kSelectionEvents.at(info.type)).size();
@@ -119,31 +104,38 @@ TEST(SpaceWindowSessionEndToEnd, ASessionWithTheSampleAccount)
         EXPECT_EQ(records.back().operationType, 1);
         EXPECT_EQ(records.back().actionType, 3);
     }
+}
 
-    // One device's backup, deleted through the confirmation box.
+// One device's backup, deleted through the confirmation box.
+void DeleteOneDevice(SpaceWindowSession& session)
+{
     ASSERT_TRUE(session.ClickRow(session.RowOf(CloudBackUp)));
     const BackUpModel device = session.viewModel().model->backups[0];
     const int devicesBefore = static_cast<int>(session.cloud().Account()["backup"]["devices"].size());
-    {
-        ModalDriver driver;
-        driver.Add([] { return AnswerConfirmation(true); });
-        ASSERT_TRUE(session.ClickBackupDelete(0));
-        EXPECT_TRUE(driver.Done());
-    }
+    ModalDriver driver;
+    driver.Add([] { return AnswerConfirmation(true); });
+    ASSERT_TRUE(session.ClickBackupDelete(0));
+    EXPECT_TRUE(driver.Done());
     EXPECT_EQ(session.Find<CListUI>(L"BackupList")->GetCount(), 1);
     EXPECT_EQ(static_cast<int>(session.cloud().Account()["backup"]["devices"].size()), devicesBefore - 1);
     ASSERT_EQ(session.Records(222).size(), 1u);
     EXPECT_EQ(session.Records(222)[0].values.at(L"device"), attr::Widen(device.deviceName));
     EXPECT_EQ(RowInfo(session, session.RowOf(CloudBackUp)).szRemark.substr(0, 1), L"1");
+}
 
-    // All messages, deleted; the row goes.
+// All messages, deleted; the row goes.
+void DeleteAllMessages(SpaceWindowSession& session)
+{
     ASSERT_TRUE(session.ClickRow(session.RowOf(Message)));
     ASSERT_TRUE(Confirm(session, true, L"opr_btn"));
     EXPECT_EQ(session.RowOf(Message), -1);
     EXPECT_EQ(session.Records(223).size(), 1u);
     EXPECT_EQ(session.SpaceRowCount(), 11);
+}
 
-    // A deletion that fails: the toast, gone by itself after about 3 s.
+// A deletion that fails: the toast, gone by itself after about 3 s.
+void AFailedDeletion(SpaceWindowSession& session)
+{
     session.cloud().AddFault(DeleteFault());
     ASSERT_TRUE(session.ClickRow(session.RowOf(Phone)));
     ModalDriver driver;
@@ -171,8 +163,11 @@ TEST(SpaceWindowSessionEndToEnd, ASessionWithTheSampleAccount)
     EXPECT_GE(session.RowOf(Phone), 0);
     EXPECT_EQ(session.Records(223).size(), 1u);
     session.cloud().ClearFaults();
+}
 
-    // Cancel changes nothing.
+// Cancel in the box changes nothing.
+void CancelChangesNothing(SpaceWindowSession& session)
+{
     ASSERT_TRUE(session.ClickRow(session.RowOf(HarassmentInterception)));
     const std::size_t recordsBefore = session.sink().OperationRecords().size();
     session.cloud().ClearLog();
@@ -180,8 +175,12 @@ TEST(SpaceWindowSessionEndToEnd, ASessionWithTheSampleAccount)
     EXPECT_EQ(session.sink().OperationRecords().size(), recordsBefore);
     EXPECT_EQ(session.cloud().RequestLog().size(), 0u);
     EXPECT_GE(session.RowOf(HarassmentInterception), 0);
+}
 
-    // The network lost after the list: the failed panel; back: a new load.
+// The network lost after the list: the failed panel; back: a new load that
+// shows what the account holds now, in a window centred again.
+void NetworkLostAndBack(SpaceWindowSession& session, const RECT& centred)
+{
     session.SetNetwork(false);
     ASSERT_TRUE(uitest::PumpUntil([&] { return session.TabPage(L"tab_right") == 1; }, 3000));
     EXPECT_EQ(session.TabPage(L"tab_switch"), PageContent);
@@ -191,22 +190,53 @@ TEST(SpaceWindowSessionEndToEnd, ASessionWithTheSampleAccount)
     ASSERT_TRUE(session.WaitUntilSettled());
     EXPECT_EQ(session.window().GetWindowRect().left, centred.left);
     EXPECT_EQ(session.window().GetWindowRect().top, centred.top);
-    // The reload shows what the account holds now.
     EXPECT_EQ(session.RowOf(Message), -1);
+}
 
-    // Every way out.
-    ASSERT_TRUE(session.ClickRow(session.RowOf(Gallery)));
-    LeaveBy(session, L"opr_btn", 0, 3222, 2);
+void ExpectAnswer(SpaceWindowSession& session, int32_t message, int64_t param)
+{
+    EXPECT_EQ(session.window().m_jumpMessage, message);
+    EXPECT_EQ(session.window().m_jumpParam, param);
+}
+
+// Every way out: each jump, the upgrade button and the close button.
+void EveryWayOut(SpaceWindowSession& session)
+{
     const std::pair<CloudSpaceType, int64_t> jumps[] = {
-        {Contact, 1}, {Notepad, 3}, {CloudDisk, 4}, {Recorder, 5}};
+        {Gallery, 2}, {Contact, 1}, {Notepad, 3}, {CloudDisk, 4}, {Recorder, 5}};
+    bool first = true;
     for (const auto& jump : jumps) {
-        ASSERT_TRUE(session.Reopen());
+        if (!first) {
+            ASSERT_TRUE(session.Reopen());
+        }
+        first = false;
         ASSERT_TRUE(session.ClickRow(session.RowOf(jump.first)));
-        LeaveBy(session, L"opr_btn", 0, 3222, jump.second);
+        EXPECT_EQ(session.LeaveBy(L"opr_btn"), 0u) << jump.first;
+        ExpectAnswer(session, 3222, jump.second);
     }
     ASSERT_TRUE(session.Reopen());
-    LeaveBy(session, L"update_btn", 0, 3037, 0);
+    EXPECT_EQ(session.LeaveBy(L"update_btn"), 0u);
+    ExpectAnswer(session, 3037, 0);
     ASSERT_TRUE(session.Reopen());
-    LeaveBy(session, L"btn_close", 1, 0, 0);
+    EXPECT_EQ(session.LeaveBy(L"btn_close"), 1u);
+    ExpectAnswer(session, 0, 0);
     EXPECT_EQ(session.Records(224).size(), 5u);
+}
+
+} // namespace
+
+TEST(SpaceWindowSessionEndToEnd, ASessionWithTheSampleAccount)
+{
+    SessionOptions options;
+    options.networkMode = "file";
+    SpaceWindowSession session(options);
+    RECT centred{};
+    ASSERT_NO_FATAL_FAILURE(OfflineThenOnline(session, centred));
+    ASSERT_NO_FATAL_FAILURE(EveryRow(session));
+    ASSERT_NO_FATAL_FAILURE(DeleteOneDevice(session));
+    ASSERT_NO_FATAL_FAILURE(DeleteAllMessages(session));
+    ASSERT_NO_FATAL_FAILURE(AFailedDeletion(session));
+    ASSERT_NO_FATAL_FAILURE(CancelChangesNothing(session));
+    ASSERT_NO_FATAL_FAILURE(NetworkLostAndBack(session, centred));
+    ASSERT_NO_FATAL_FAILURE(EveryWayOut(session));
 }

@@ -18,15 +18,6 @@ std::wstring T(const wchar_t* key)
     return ToolkitText(key);
 }
 
-// A plural text with its "%d" deleted, as the window writes it after the digits.
-std::wstring Bare(const wchar_t* key)
-{
-    std::wstring unit = T(key);
-    for (std::size_t at = unit.find(L"%d"); at != std::wstring::npos; at = unit.find(L"%d"))
-        unit.erase(at, 2);
-    return unit;
-}
-
 std::shared_ptr<CloudSpaceItem> ItemOf(SpaceWindowSession& session, CloudSpaceType type)
 {
     for (const auto& item : session.viewModel().model->items) {
@@ -80,7 +71,7 @@ TEST(SpacePage, EveryRowShowsItsIconNameCountAndSize)
     EXPECT_EQ(RowPart(session, backup, L"itemName")->GetText().str(), T(L"IDS_MAIN_PAGE_PanCapacity_Backup"));
     EXPECT_EQ(RowPart(session, backup, L"itemPic")->GetBkImage().str(), L"SpaceMgm/cloudBackup.svg");
     EXPECT_EQ(RowPart(session, backup, L"itemRemark")->GetText().str(),
-              L"2" + Bare(L"IDS_SPACEMANAGEMENT_NUMUNITS_OTHER"));
+              L"2" + BareUnit(L"IDS_SPACEMANAGEMENT_NUMUNITS_OTHER"));
     EXPECT_TRUE(RowPart(session, backup, L"itemRemark")->IsVisible());
     // Two devices of 20 + 8 and 6 GiB.
     EXPECT_EQ(ItemOf(session, CloudBackUp)->space, 34LL << 30);
@@ -103,7 +94,7 @@ TEST(SpacePage, ARowWithOnlyACountShowsItInTheSizeColumn)
     const SpaceInfo& info = InfoOfRow(session, messages);
     EXPECT_TRUE(info.szItemSize.empty());
     EXPECT_EQ(info.szRemark, WidenUtf8(ItemOf(session, Message)->count) +
-                                 Bare(L"IDS_SPACEMANAGEMENT_CLOUDBACKNUMUNITS_OTHER"));
+                                 BareUnit(L"IDS_SPACEMANAGEMENT_CLOUDBACKNUMUNITS_OTHER"));
     EXPECT_EQ(RowPart(session, messages, L"itemSize")->GetText().str(), info.szRemark);
     EXPECT_FALSE(RowPart(session, messages, L"itemRemark")->IsVisible());
 }
@@ -139,14 +130,8 @@ TEST(SpacePage, ContactWithoutDeletedEntriesHidesTheSecondLineAndNotepadShowsZer
 {
     SessionOptions options;
     options.fixture = MakeFixture("no-recycle", [](Json::Value& account) {
-        Json::Value contact;
-        contact["source"] = "contact";
-        contact["sumNum"] = 812;
-        account["pim"]["contact"]["statistics"].append(contact);
-        Json::Value note;
-        note["source"] = "notepad";
-        note["sumNum"] = 57;
-        account["pim"]["notepad"]["statistics"].append(note);
+        AddStatistic(account, "contact", "contact", 812);
+        AddStatistic(account, "notepad", "notepad", 57);
     });
     SpaceWindowSession session(options);
     ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
@@ -163,24 +148,18 @@ TEST(SpacePage, RussianTakesTheOneFormFor21AndTheOtherFormFor11)
     SessionOptions options;
     options.language = L"ru-RU";
     options.fixture = MakeFixture("plural-counts", [](Json::Value& account) {
-        Json::Value note;
-        note["source"] = "notepad";
-        note["sumNum"] = 21;
-        account["pim"]["notepad"]["statistics"].append(note);
-        Json::Value wlan;
-        wlan["source"] = "wlan";
-        wlan["sumNum"] = 11;
-        account["pim"]["wlan"]["statistics"].append(wlan);
+        AddStatistic(account, "notepad", "notepad", 21);
+        AddStatistic(account, "wlan", "wlan", 11);
     });
     SpaceWindowSession session(options);
     ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
     EXPECT_EQ(InfoOfRow(session, session.RowOf(Notepad)).szRemark,
-              L"21" + Bare(L"IDS_SPACEMANAGEMENT_CLOUDBACKNUMUNITS_ONE"));
+              L"21" + BareUnit(L"IDS_SPACEMANAGEMENT_CLOUDBACKNUMUNITS_ONE"));
     EXPECT_EQ(InfoOfRow(session, session.RowOf(Wlan)).szRemark,
-              L"11" + Bare(L"IDS_SPACEMANAGEMENT_CLOUDBACKNUMUNITS_OTHER"));
+              L"11" + BareUnit(L"IDS_SPACEMANAGEMENT_CLOUDBACKNUMUNITS_OTHER"));
     ASSERT_TRUE(session.ClickRow(session.RowOf(Wlan)));
     EXPECT_EQ(session.TextOf(L"itemInfo1"),
-              T(L"IDS_SPACEMANAGEMENT_Wlan") + L" 11" + Bare(L"IDS_SPACEMANAGEMENT_UNIT_STRIPES_OTHER"));
+              T(L"IDS_SPACEMANAGEMENT_Wlan") + L" 11" + BareUnit(L"IDS_SPACEMANAGEMENT_UNIT_STRIPES_OTHER"));
 }
 
 TEST(SpacePage, EachJumpLeavesItsCodeAndParameterWithExitCodeZero)
@@ -191,10 +170,7 @@ TEST(SpacePage, EachJumpLeavesItsCodeAndParameterWithExitCodeZero)
         SpaceWindowSession session;
         ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
         ASSERT_TRUE(session.ClickRow(session.RowOf(jump.first))) << jump.first;
-        const POINT p = uitest::CentreOf(session.pm(), session.Control(L"opr_btn"));
-        ::PostMessageW(session.hwnd(), WM_LBUTTONDOWN, 0, MAKELPARAM(p.x, p.y));
-        ::PostMessageW(session.hwnd(), WM_LBUTTONUP, 0, MAKELPARAM(p.x, p.y));
-        EXPECT_EQ(session.window().ShowModal(), 0u) << jump.first;
+        EXPECT_EQ(session.LeaveBy(L"opr_btn"), 0u) << jump.first;
         EXPECT_EQ(session.window().m_jumpMessage, 3222) << jump.first;
         EXPECT_EQ(session.window().m_jumpParam, jump.second) << jump.first;
         const auto records = session.Records(224);

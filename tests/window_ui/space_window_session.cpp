@@ -209,6 +209,14 @@ bool SpaceWindowSession::ClickBackupDelete(int row)
     return true;
 }
 
+UINT SpaceWindowSession::LeaveBy(const wchar_t* button)
+{
+    const POINT p = uitest::CentreOf(pm(), Control(button));
+    ::PostMessageW(hwnd(), WM_LBUTTONDOWN, 0, MAKELPARAM(p.x, p.y));
+    ::PostMessageW(hwnd(), WM_LBUTTONUP, 0, MAKELPARAM(p.x, p.y));
+    return window_->ShowModal();
+}
+
 void SpaceWindowSession::SetNetwork(bool online)
 {
     std::ofstream(networkFile_, std::ios::trunc) << (online ? "online" : "offline");
@@ -344,6 +352,22 @@ std::string MakeFixture(const std::string& name, const std::function<void(Json::
     const std::string path = OutputFolder() + "/" + name + ".json";
     std::ofstream(path, std::ios::trunc) << account.toStyledString();
     return path;
+}
+
+std::wstring BareUnit(const wchar_t* key)
+{
+    std::wstring unit = CResourceManager::GetInstance()->GetText(key);
+    for (std::size_t at = unit.find(L"%d"); at != std::wstring::npos; at = unit.find(L"%d"))
+        unit.erase(at, 2);
+    return unit;
+}
+
+void AddStatistic(Json::Value& account, const char* category, const char* source, int count)
+{
+    Json::Value statistic;
+    statistic["source"] = source;
+    statistic["sumNum"] = count;
+    account["pim"][category]["statistics"].append(statistic);
 }
 
 Json::Value ReplyRule(const std::string& service, const std::string& endpoint, const std::string& body)

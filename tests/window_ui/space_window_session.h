@@ -85,6 +85,9 @@ public:
     // Clicks the row of SpaceList at `index` and waits for what it starts.
     bool ClickRow(int index);
     bool ClickBackupDelete(int row);
+    // Clicks `button` through the queue and runs the window modally, as the
+    // host does, until the click closes it; the exit code.
+    UINT LeaveBy(const wchar_t* button);
 
     // Writes the probe's file ("file" mode).
     void SetNetwork(bool online);
@@ -134,6 +137,12 @@ bool AnswerConfirmation(bool confirm, std::wstring* title = nullptr, std::wstrin
 // The fixture file of a test-made account: `edit` changes the empty
 // account's JSON; written under the build tree.
 std::string MakeFixture(const std::string& name, const std::function<void(Json::Value&)>& edit);
+
+// A plural text with its "%d" deleted, as the window writes it after digits.
+std::wstring BareUnit(const wchar_t* key);
+
+// Adds one PIM statistic ({source, sumNum}) to a fixture's category.
+void AddStatistic(Json::Value& account, const char* category, const char* source, int count);
 
 // A fault rule that answers `service` at `endpoint` with status 200 and `body`.
 Json::Value ReplyRule(const std::string& service, const std::string& endpoint, const std::string& body);
