@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "space_window_session.h"
+#include "window/backup_list_ui.h"
 #include "window/load_sequence.h"
 #include "window/operation_records.h"
 #include "window/space_list_ui.h"
@@ -391,4 +392,34 @@ TEST(SpaceWindowFrame, ClosingWhileTheNetworkComesAndGoesNeverWaitsOnTheWatcher)
     flapper.join();
     EXPECT_FALSE(session.IsOpen());
     EXPECT_LT(took, 2000);
+}
+
+TEST(SpaceWindowSkins, UseOnlyDuiLibElementsAndAttributes)
+{
+    uitest::UseOffscreenToolkit();
+    CPaintManagerUI::SetResourcePath((CPaintManagerUI::GetInstancePath() + L"Res/skin").GetData());
+    struct WindowElements : IDialogBuilderCallback
+    {
+        CControlUI* CreateControl(LPCTSTR name) override
+        {
+            if (CompareNoCase(name, L"ListViewS") == 0)
+                return new CSpaceListViewUI;
+            if (CompareNoCase(name, L"ListItemS") == 0)
+                return new CSpaceItemUI;
+            if (CompareNoCase(name, L"ListViewB") == 0)
+                return new CBackupListViewUI;
+            if (CompareNoCase(name, L"ListItemB") == 0)
+                return new CBackupItemUI;
+            return nullptr;
+        }
+    } elements;
+    for (const wchar_t* skin : {L"SpaceMgm/SpaceMgmWnd.xml", L"SpaceMgm/SpaceItem.xml",
+                                L"SpaceMgm/BackupItem.xml", L"Gallery/Error/ErrorWnd.xml"}) {
+        CPaintManagerUI pm;
+        CDialogBuilder builder;
+        builder.SetDuiLibOnly(true);
+        std::unique_ptr<CControlUI> root(builder.Create(skin, nullptr, &elements, &pm));
+        EXPECT_NE(root, nullptr) << attr::Narrow(skin) << ": "
+                                 << (builder.GetError() ? builder.GetError()->ToString() : "");
+    }
 }

@@ -5,7 +5,7 @@
 
 #include "app/cbs_backup_deleter.h"
 #include "host/host_config.h"
-#include "toolkit/win32/network_probe.h"
+#include "host/network_probe.h"
 #include "toolkit/window/native_surface.h"
 #include "window/load_sequence.h"
 #include "window/space_list_ui.h"
@@ -20,27 +20,6 @@ std::string OutputFolder()
     std::filesystem::create_directories(dir);
     return dir.string();
 }
-
-// Stand-in until the host's probe is in: online, or what the file says.
-class FileProbe : public toolkit_win32::NetworkProbe
-{
-public:
-    explicit FileProbe(std::string path) : path_(std::move(path)) {}
-    bool OnNetwork() const override { return Online(); }
-    bool HasInternetRoute() const override { return Online(); }
-
-private:
-    bool Online() const
-    {
-        if (path_.empty())
-            return true;
-        std::ifstream in(path_);
-        std::string word;
-        in >> word;
-        return word == "online";
-    }
-    std::string path_;
-};
 
 bool AllShown(CControlUI* control)
 {
@@ -73,7 +52,7 @@ SpaceWindowSession::SpaceWindowSession(SessionOptions options) : options_(std::m
         SetNetwork(true);
     }
     host::SetCurrentHostConfig(config);
-    toolkit_win32::SetNetworkProbe(std::make_shared<FileProbe>(networkFile_));
+    networkProbe_ = std::make_unique<host::ScopedNetworkProbe>(config);
 
     uitest::UseOffscreenToolkit();
     CResourceManager::GetInstance()->SetLanguage(options_.language.c_str());

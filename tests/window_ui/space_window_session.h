@@ -14,6 +14,7 @@
 #include "harness/ui_harness.h"
 #include "host/backup_host_window.h"
 #include "host/logger_sink.h"
+#include "host/network_probe.h"
 #include "space_data/cloud_space_view_model.h"
 #include "window/space_mgm_wnd.h"
 
@@ -105,6 +106,7 @@ private:
     SessionOptions options_;
     std::unique_ptr<spacemgm_test::CloudEmulator> cloud_;
     std::string networkFile_;
+    std::unique_ptr<host::ScopedNetworkProbe> networkProbe_;
     Logger::ScopedMemorySink sink_;
     std::unique_ptr<host::BackupHostWindow> hostWindow_;
     std::shared_ptr<CloudSpaceManagementViewModel> viewModel_;
