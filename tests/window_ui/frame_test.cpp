@@ -423,3 +423,44 @@ TEST(SpaceWindowSkins, UseOnlyDuiLibElementsAndAttributes)
                                  << (builder.GetError() ? builder.GetError()->ToString() : "");
     }
 }
+
+TEST(SpaceWindowKeyboard, EscapeClosesTheWindowWithExitCodeOne)
+{
+    SpaceWindowSession session;
+    ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
+    ::PostMessageW(session.hwnd(), WM_KEYDOWN, VK_ESCAPE, 0);
+    EXPECT_EQ(session.window().ShowModal(), 1u);
+    EXPECT_EQ(session.window().m_jumpMessage, 0);
+}
+
+TEST(SpaceWindowKeyboard, DownAndEndMoveTheSelectionAndFillThePanel)
+{
+    SpaceWindowSession session;
+    ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
+    auto* list = session.Find<CListUI>(L"SpaceList");
+    ASSERT_EQ(list->GetCurSel(), 0);
+    uitest::PressKey(session.hwnd(), VK_DOWN);
+    uitest::PumpPending();
+    ASSERT_EQ(list->GetCurSel(), 1);
+    const SpaceInfo second = dynamic_cast<CSpaceItemUI*>(list->GetItemAt(1))->GetSpaceInfo();
+    EXPECT_EQ(session.TextOf(L"itemInfo1"), second.szInfo1);
+    uitest::PressKey(session.hwnd(), VK_END);
+    uitest::PumpPending();
+    EXPECT_EQ(list->GetCurSel(), list->GetCount() - 1);
+    EXPECT_EQ(list->GetItemAt(list->GetCount() - 1)->GetBkColor(), 0xFFE8F0FFu);
+}
+
+TEST(SpaceWindowKeyboard, TabReachesTheButtonsOfThePanelAndEnterPressesThem)
+{
+    SpaceWindowSession session;
+    ASSERT_TRUE(session.OpenAndSettle()) << session.CreateError();
+    ASSERT_TRUE(session.ClickRow(session.RowOf(Gallery)));
+    CControlUI* button = session.Control(L"opr_btn");
+    for (int i = 0; i < 10 && session.pm().GetFocus() != button; ++i)
+        uitest::PressKey(session.hwnd(), VK_TAB);
+    ASSERT_EQ(session.pm().GetFocus(), button);
+    ::PostMessageW(session.hwnd(), WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_EQ(session.window().ShowModal(), 0u);
+    EXPECT_EQ(session.window().m_jumpMessage, 3222);
+    EXPECT_EQ(session.window().m_jumpParam, 2);
+}
