@@ -61,8 +61,13 @@ std::optional<std::string> CheckLanguageFile(const std::string& path)
     const std::unique_ptr<Json::CharReader> reader(builder.newCharReader());
     Json::Value root;
     std::string errors;
-    if (!reader->parse(text.data(), text.data() + text.size(), &root, &errors))
-        return path + ":" + FirstJsonError(errors);
+    try {
+        if (!reader->parse(text.data(), text.data() + text.size(), &root, &errors))
+            return path + ":" + FirstJsonError(errors);
+    } catch (const std::exception& e) {
+        // jsoncpp throws instead of reporting when nesting passes its limit.
+        return path + ": not a language file (" + e.what() + ")";
+    }
     if (!root.isObject())
         return path + ": a language file must be one JSON object of texts";
     for (const std::string& key : root.getMemberNames()) {

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 #include "harness/ui_harness.h"
 
 using namespace uitest;
@@ -133,6 +136,21 @@ TEST_F(TextTest, GetTextFallsBackToEnglishThenToTheKey)
     res->SetLanguage(L"en-US");
     res->ReloadText();
     UseOffscreenToolkit();
+}
+
+TEST_F(TextTest, ALanguageFileNestedPastTheParsersLimitGivesNoTextsAndNoCrash)
+{
+    const std::string root = std::string(SPACEMGM_BINARY_DIR) + "/deep-language/";
+    std::filesystem::create_directories(root + "Res/lang");
+    std::ofstream(root + "Res/lang/en-US.json", std::ios::trunc)
+        << "{\"IDS_FIXTURE_GREETING\": " << std::string(200000, '[') << std::string(200000, ']') << "}";
+    CPaintManagerUI::SetInstancePath(attr::Widen(root).c_str());
+    auto* res = CResourceManager::GetInstance();
+    res->SetLanguage(L"en-US");
+    res->ReloadText();
+    EXPECT_STREQ(res->GetText(L"IDS_FIXTURE_GREETING"), L"IDS_FIXTURE_GREETING");
+    UseOffscreenToolkit();
+    res->ReloadText();
 }
 
 TEST_F(TextTest, SkinTextsWithKeysAreLookedUp)

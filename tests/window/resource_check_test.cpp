@@ -42,3 +42,12 @@ TEST(LanguageFileCheck, AFileThatIsNoObjectOfTextsIsRefused)
     const std::string number = Write("number.json", "{\"IDS_A\": 3}");
     EXPECT_EQ(CheckLanguageFile(number), number + ": the text of \"IDS_A\" is not a string");
 }
+
+TEST(LanguageFileCheck, NestingDeeperThanTheParserTakesIsNamedNotACrash)
+{
+    const std::string path =
+        Write("deep.json", "{\"IDS_A\": " + std::string(200000, '[') + std::string(200000, ']') + "}");
+    const auto problem = CheckLanguageFile(path);
+    ASSERT_TRUE(problem.has_value());
+    EXPECT_EQ(problem->rfind(path + ": not a language file (", 0), 0u) << *problem;
+}

@@ -24,8 +24,13 @@ std::map<std::wstring, std::wstring> ReadLanguageFile(const std::string& path)
     Json::CharReaderBuilder builder;
     Json::Value root;
     std::string errors;
-    if (!Json::parseFromStream(builder, in, &root, &errors) || !root.isObject())
+    try {
+        if (!Json::parseFromStream(builder, in, &root, &errors) || !root.isObject())
+            return table;
+    } catch (const std::exception&) {
+        // Nesting past jsoncpp's limit throws; such a file has no texts.
         return table;
+    }
     for (const auto& key : root.getMemberNames()) {
         const Json::Value& value = root[key];
         if (value.isString())
