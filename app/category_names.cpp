@@ -99,21 +99,41 @@ std::string CategoryName(CloudSpaceType type)
 }
 
 CategoryTexts::CategoryTexts(const std::string& resourceRoot, const std::string& language)
-    : texts_(ReadTexts(LanguageFile(resourceRoot, language))),
+    : language_(language), texts_(ReadTexts(LanguageFile(resourceRoot, language))),
       fallback_(ReadTexts(LanguageFile(resourceRoot, "en-US")))
 {
 }
 
-std::string CategoryTexts::NameOf(CloudSpaceType type) const
+std::string CategoryTexts::Text(const std::string& key) const
 {
-    const std::string key = CategoryTextKey(type);
     for (const auto* table : {&texts_, &fallback_}) {
         const auto found = table->find(key);
         if (found != table->end() && !found->second.empty()) {
             return found->second;
         }
     }
-    return CategoryName(type);
+    return std::string();
+}
+
+std::string CategoryTexts::NameOf(CloudSpaceType type) const
+{
+    const std::string name = Text(CategoryTextKey(type));
+    return name.empty() ? CategoryName(type) : name;
+}
+
+std::string CategoryTexts::CountText(CloudSpaceType type, const std::string& count) const
+{
+    const bool digits =
+        !count.empty() && count.size() < 10 && count.find_first_not_of("0123456789") == std::string::npos;
+    const int number = digits ? std::stoi(count) : 0;
+    const std::wstring baseKey =
+        type == CloudBackUp ? L"IDS_SPACEMANAGEMENT_NUMUNITS" : L"IDS_SPACEMANAGEMENT_CLOUDBACKNUMUNITS";
+    std::string unit =
+        Text(WideToUtf8(PluralKey(std::wstring(language_.begin(), language_.end()), number, baseKey)));
+    for (size_t at = unit.find("%d"); at != std::string::npos; at = unit.find("%d", at)) {
+        unit.erase(at, 2);
+    }
+    return count + unit;
 }
 
 std::string ResourceRoot()

@@ -35,7 +35,16 @@ public:
 
     std::string NameOf(CloudSpaceType type) const;
 
+    // A row's count as the window's list shows it: the digits, then the
+    // unit of the language's plural form with its "%d" deleted ("2 devices",
+    // "3621 записей"). The cloud backup row counts devices, every other row
+    // records, as the window's rows do.
+    std::string CountText(CloudSpaceType type, const std::string& count) const;
+
 private:
+    std::string Text(const std::string& key) const;
+
+    std::string language_;
     std::map<std::string, std::string> texts_;
     std::map<std::string, std::string> fallback_;
 };

@@ -53,12 +53,14 @@ std::shared_ptr<CloudSpaceItem> RowOf(const UsageReport& report, CloudSpaceType 
     return nullptr;
 }
 
-// "34.00 GB, 2 items", "42.00 GB", "3621 items"; the figures as the module
-// formats them.
-std::string RowText(const CloudSpaceItem& item)
+// "34.00 GB, 2 devices", "42.00 GB", "3621 items"; the figures as the module
+// formats them, the units as the window's list shows them.
+std::string RowText(const CloudSpaceItem& item, const CategoryTexts& texts)
 {
     const std::string size = CategorySizeText(item);
-    const std::string count = item.count.empty() || item.count == "0" ? std::string() : item.count + " items";
+    const std::string count = item.count.empty() || item.count == "0"
+                                  ? std::string()
+                                  : texts.CountText(static_cast<CloudSpaceType>(item.type), item.count);
     if (size.empty() && count.empty()) {
         return "0 B";
     }
@@ -76,7 +78,7 @@ void WriteCategories(std::ostream& out, const UsageReport& report, const Categor
     for (const auto& item : report.items) {
         if (item) {
             out << "  " << EscapeForTerminal(texts.NameOf(item->type)) << ": "
-                << EscapeForTerminal(RowText(*item)) << "\n";
+                << EscapeForTerminal(RowText(*item, texts)) << "\n";
         }
     }
     for (CloudSpaceType type : AllCategories()) {

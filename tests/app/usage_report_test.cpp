@@ -73,7 +73,7 @@ TEST(UsageText, GroupsInWordsAndEveryCategoryWithNoDataForThoseWithoutARow)
         "  Other: 0.00 B",
         "  Family sharing: 0.00 B",
         "Categories:",
-        "  Cloud backup: 1.00 KB, 1 items",
+        "  Cloud backup: 1.00 KB, 1 device",
         "  Messages: 12 items",
         "  Gallery: 2.00 KB",
         "  Wi-Fi networks: no data",
@@ -158,4 +158,14 @@ TEST(UsageJson, DeviceNamesStayAsTheServiceSentThem)
     std::string errors;
     ASSERT_TRUE(Json::parseFromStream(Json::CharReaderBuilder(), in, &root, &errors)) << errors;
     EXPECT_EQ(root["backups"][0]["deviceName"].asString(), "a\x1B[31mb");
+}
+
+TEST(UsageText, CountsTakeTheUnitsOfTheWindowsListInTheReportsLanguage)
+{
+    const app::CategoryTexts russian(SPACEMGM_SOURCE_DIR, "ru-RU");
+    EXPECT_EQ(russian.CountText(CloudBackUp, "2"), "2 устройства");
+    EXPECT_EQ(russian.CountText(Message, "3621"), "3621 элемент");
+    EXPECT_EQ(russian.CountText(Message, "12"), "12 элементов");
+    EXPECT_EQ(English().CountText(CloudBackUp, "1"), "1 device");
+    EXPECT_EQ(English().CountText(Notepad, "57"), "57 items");
 }

@@ -74,7 +74,7 @@ TEST(UsageOutput, SampleAccountLineByLine)
         "  Other: 16.00 GB",
         "  Family sharing: 3.00 GB",
         "Categories:",
-        "  Cloud backup: 34.00 GB, 2 items",
+        "  Cloud backup: 34.00 GB, 2 devices",
         "  Gallery: 42.00 GB",
         "  Cloud drive: 25.00 GB",
         "  Spam & blocked: 1.25 MB",
