@@ -14,23 +14,22 @@
 
 namespace bench_support {
 
-// Each side is a callable returning true when its call succeeded; a failed
-// call ends the benchmark with an error.
+// Each side is a callable that measures itself: it returns the seconds of
+// the span that counts (work before and after it, such as closing a window,
+// stays out), or a negative value when its call failed, which ends the
+// benchmark with an error.
 template <class SideA, class SideB>
-void RunInterleaved(benchmark::State& state, const std::string& nameA, SideA&& sideA,
-                    const std::string& nameB, SideB&& sideB)
+void RunInterleavedMeasured(benchmark::State& state, const std::string& nameA, SideA&& sideA,
+                            const std::string& nameB, SideB&& sideB)
 {
-    using Clock = std::chrono::steady_clock;
     double seconds[2] = {0, 0};
     long long iteration = 0;
     for (auto _ : state) {
         double iterationSeconds = 0;
         for (int turn = 0; turn < 2; ++turn) {
             const int which = static_cast<int>((iteration + turn) % 2);
-            const auto start = Clock::now();
-            const bool ok = which == 0 ? sideA() : sideB();
-            const double elapsed = std::chrono::duration<double>(Clock::now() - start).count();
-            if (!ok) {
+            const double elapsed = which == 0 ? sideA() : sideB();
+            if (elapsed < 0) {
                 state.SkipWithError(("a call of " + (which == 0 ? nameA : nameB) + " failed").c_str());
                 return;
             }
@@ -44,6 +43,23 @@ void RunInterleaved(benchmark::State& state, const std::string& nameA, SideA&& s
     state.counters[nameA + "_us"] = seconds[0] / calls * 1e6;
     state.counters[nameB + "_us"] = seconds[1] / calls * 1e6;
     state.counters[nameB + "_vs_" + nameA] = seconds[1] / seconds[0];
+}
+
+// Each side is a callable returning true when its call succeeded; the whole
+// call is timed.
+template <class SideA, class SideB>
+void RunInterleaved(benchmark::State& state, const std::string& nameA, SideA&& sideA,
+                    const std::string& nameB, SideB&& sideB)
+{
+    const auto timed = [](auto& side) {
+        return [&side]() {
+            using Clock = std::chrono::steady_clock;
+            const auto start = Clock::now();
+            const bool ok = side();
+            return ok ? std::chrono::duration<double>(Clock::now() - start).count() : -1.0;
+        };
+    };
+    RunInterleavedMeasured(state, nameA, timed(sideA), nameB, timed(sideB));
 }
 
 } // namespace bench_support
