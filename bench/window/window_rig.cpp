@@ -73,12 +73,12 @@ PaintedFrame CurrentView(SpaceMgmWnd& window)
 
 bool PumpObserving(const std::function<void(const MSG&)>& observe,
                    const std::function<void(const MSG&)>& after, const std::function<bool()>& done,
-                   int timeoutMs)
+                   int timeoutMs, int wakeEveryMs)
 {
     const auto deadline = Clock::now() + std::chrono::milliseconds(timeoutMs);
     // A thread timer only wakes the loop to look at `done` and the clock; it
     // is never dispatched.
-    const UINT_PTR wake = ::SetTimer(nullptr, 0, 5, nullptr);
+    const UINT_PTR wake = ::SetTimer(nullptr, 0, static_cast<UINT>(wakeEveryMs), nullptr);
     bool finished = done();
     MSG msg{};
     while (!finished && Clock::now() < deadline && ::GetMessageW(&msg, nullptr, 0, 0) > 0) {

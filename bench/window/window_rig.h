@@ -69,10 +69,12 @@ bool PumpUntilPainted(SpaceMgmWnd& window, const std::function<bool(const Painte
 
 // Runs the calling thread's messages, calling `observe` before each is
 // dispatched and `after` once it was, until `done` holds (true) or
-// `timeoutMs` passed (false). `done` is checked at least every 5 ms.
+// `timeoutMs` passed (false). `done` is checked after each message and every
+// `wakeEveryMs` (at least 10 ms, the surface's shortest timer): a wake-up
+// costs CPU, so a measurement of an idle window wakes only at its end.
 bool PumpObserving(const std::function<void(const MSG&)>& observe,
                    const std::function<void(const MSG&)>& after, const std::function<bool()>& done,
-                   int timeoutMs);
+                   int timeoutMs, int wakeEveryMs = 10);
 
 // Pumps until the window is still: every load ended and was taken, the bar
 // animation is over and the loading page has gone.

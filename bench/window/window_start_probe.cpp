@@ -59,7 +59,7 @@ double IdleCpuPercent(int idleMs)
     const auto until = wallBefore + std::chrono::milliseconds(idleMs);
     const auto nothing = [](const MSG&) {};
     PumpObserving(
-        nothing, nothing, [until] { return Clock::now() >= until; }, idleMs + 1000);
+        nothing, nothing, [until] { return Clock::now() >= until; }, idleMs + 1000, idleMs);
     const double wall = MillisecondsBetween(wallBefore, Clock::now()) / 1000.0;
     return 100.0 * (ProcessCpuSeconds() - cpuBefore) / wall;
 }
