@@ -3,6 +3,7 @@
 #include <cairo.h>
 
 #include <cctype>
+#include <cmath>
 #include <librsvg/rsvg.h>
 
 #include "toolkit/core/attributes.h"
@@ -22,7 +23,21 @@ bool EndsWith(const std::string& text, const char* suffix)
     return tail == s;
 }
 
+// Kept renderings per image; beyond this the oldest goes first.
+constexpr std::size_t kMaxRasters = 4;
+
 } // namespace
+
+void Image::SurfaceRelease::operator()(cairo_surface_t* surface) const
+{
+    cairo_surface_destroy(surface);
+}
+
+bool Image::DevicePlacement::operator==(const DevicePlacement& other) const
+{
+    return width == other.width && height == other.height && offsetX == other.offsetX &&
+           offsetY == other.offsetY && scaledWidth == other.scaledWidth && scaledHeight == other.scaledHeight;
+}
 
 std::shared_ptr<Image> Image::Load(const std::string& path)
 {
@@ -69,24 +84,81 @@ void Image::Draw(cairo_t* cr, double x, double y, double width, double height, d
 {
     if (width <= 0 || height <= 0)
         return;
-    cairo_save(cr);
     if (m_svg) {
-        RsvgRectangle viewport{x, y, width, height};
-        if (alpha < 1.0)
-            cairo_push_group(cr);
-        rsvg_handle_render_document(m_svg, cr, &viewport, nullptr);
-        if (alpha < 1.0) {
-            cairo_pop_group_to_source(cr);
-            cairo_paint_with_alpha(cr, alpha);
-        }
-    } else if (m_bitmap && m_width > 0 && m_height > 0) {
+        DrawSvg(cr, x, y, width, height, alpha);
+        return;
+    }
+    if (m_bitmap && m_width > 0 && m_height > 0) {
+        cairo_save(cr);
         cairo_translate(cr, x, y);
         cairo_scale(cr, width / m_width, height / m_height);
         cairo_set_source_surface(cr, m_bitmap, 0, 0);
         cairo_pattern_set_filter(cairo_get_source(cr), CAIRO_FILTER_GOOD);
         cairo_paint_with_alpha(cr, alpha);
+        cairo_restore(cr);
+    }
+}
+
+void Image::DrawSvg(cairo_t* cr, double x, double y, double width, double height, double alpha) const
+{
+    cairo_matrix_t matrix;
+    cairo_get_matrix(cr, &matrix);
+    double left = x;
+    double top = y;
+    double right = x + width;
+    double bottom = y + height;
+    cairo_user_to_device(cr, &left, &top);
+    cairo_user_to_device(cr, &right, &bottom);
+    const bool axisAligned = matrix.xy == 0 && matrix.yx == 0 && right > left && bottom > top;
+    cairo_surface_t* raster = nullptr;
+    DevicePlacement placement;
+    if (axisAligned) {
+        placement.left = static_cast<int>(std::floor(left));
+        placement.top = static_cast<int>(std::floor(top));
+        placement.width = static_cast<int>(std::ceil(right)) - placement.left;
+        placement.height = static_cast<int>(std::ceil(bottom)) - placement.top;
+        placement.offsetX = left - placement.left;
+        placement.offsetY = top - placement.top;
+        placement.scaledWidth = right - left;
+        placement.scaledHeight = bottom - top;
+        raster = RasterFor(placement);
+    }
+    cairo_save(cr);
+    if (raster != nullptr) {
+        cairo_identity_matrix(cr);
+        cairo_set_source_surface(cr, raster, placement.left, placement.top);
+        cairo_paint_with_alpha(cr, alpha);
+    } else {
+        // Rotated or skewed: no pixels to keep, the document is rendered.
+        RsvgRectangle viewport{x, y, width, height};
+        cairo_push_group(cr);
+        rsvg_handle_render_document(m_svg, cr, &viewport, nullptr);
+        cairo_pop_group_to_source(cr);
+        cairo_paint_with_alpha(cr, alpha);
     }
     cairo_restore(cr);
+}
+
+cairo_surface_t* Image::RasterFor(const DevicePlacement& placement) const
+{
+    std::lock_guard<std::mutex> lock(m_rastersMutex);
+    for (const Raster& raster : m_rasters) {
+        if (raster.placement == placement)
+            return raster.pixels.get();
+    }
+    SurfacePtr pixels(cairo_image_surface_create(CAIRO_FORMAT_ARGB32, placement.width, placement.height));
+    if (cairo_surface_status(pixels.get()) != CAIRO_STATUS_SUCCESS)
+        return nullptr;
+    cairo_t* cr = cairo_create(pixels.get());
+    RsvgRectangle viewport{placement.offsetX, placement.offsetY, placement.scaledWidth,
+                           placement.scaledHeight};
+    rsvg_handle_render_document(m_svg, cr, &viewport, nullptr);
+    cairo_destroy(cr);
+    cairo_surface_flush(pixels.get());
+    if (m_rasters.size() >= kMaxRasters)
+        m_rasters.erase(m_rasters.begin());
+    m_rasters.push_back(Raster{placement, std::move(pixels)});
+    return m_rasters.back().pixels.get();
 }
 
 bool ImageSpec::Parse(const std::wstring& text, ImageSpec& out)
