@@ -6,10 +6,11 @@
 //
 //   window_start_probe CONFIG WORKDIR RESOURCES REPORT_FD NETWORK_MODE IDLE_MS
 //
-// Lines, in order:
-//   main <ns>                       main() entered
-//   created <ns>                    Create returned and the window is shown
-//   first_paint <ns> <page>         first frame painted, and its page
+// Lines, in order (<cpu> is two numbers: the CPU milliseconds this thread and
+// the whole process have used since exec, to tell work from waiting):
+//   main <ns> <cpu>                 main() entered
+//   created <ns> <cpu>              Create returned and the window is shown
+//   first_paint <ns> <page> <cpu>   first frame painted, and its page
 //   content_paint <ns> <rows>       first frame of the content page with rows
 //   idle <cpu_percent> <page>       with IDLE_MS > 0: the still window's CPU
 //   memory <VmRSS kB> <VmHWM kB>    with IDLE_MS > 0: measured after the idle
@@ -33,6 +34,18 @@ long long MonotonicNanoseconds()
     timespec now{};
     clock_gettime(CLOCK_MONOTONIC, &now);
     return static_cast<long long>(now.tv_sec) * 1000000000LL + now.tv_nsec;
+}
+
+// This thread's and the process's CPU time since exec, in milliseconds.
+std::string CpuSpent()
+{
+    const auto ms = [](clockid_t clock) {
+        timespec spent{};
+        clock_gettime(clock, &spent);
+        return std::to_string(static_cast<double>(spent.tv_sec) * 1e3 +
+                              static_cast<double>(spent.tv_nsec) / 1e6);
+    };
+    return ms(CLOCK_THREAD_CPUTIME_ID) + " " + ms(CLOCK_PROCESS_CPUTIME_ID);
 }
 
 class Report
@@ -71,7 +84,7 @@ int Run(int argc, char** argv, long long mainNs)
         return 2;
     }
     const Report report(std::atoi(argv[4]));
-    report.Line("main " + std::to_string(mainNs));
+    report.Line("main " + std::to_string(mainNs) + " " + CpuSpent());
     const int idleMs = std::atoi(argv[6]);
 
     UseOffscreenWindows(argv[3], 96);
@@ -82,7 +95,7 @@ int Run(int argc, char** argv, long long mainNs)
         return 1;
     }
     window.ShowWindow(true);
-    report.Line("created " + std::to_string(MonotonicNanoseconds()));
+    report.Line("created " + std::to_string(MonotonicNanoseconds()) + " " + CpuSpent());
 
     bool first = true;
     const bool content = PumpUntilPainted(
@@ -90,7 +103,7 @@ int Run(int argc, char** argv, long long mainNs)
         [&](const PaintedFrame& frame) {
             if (first) {
                 report.Line("first_paint " + std::to_string(MonotonicNanoseconds()) + " " +
-                            std::to_string(frame.page));
+                            std::to_string(frame.page) + " " + CpuSpent());
                 first = false;
             }
             if (frame.page != PageContent || frame.rows == 0)
