@@ -11,7 +11,6 @@
 #include <memory>
 #include <string>
 
-#include "cloud_emulator.h"
 #include "host/backup_host_window.h"
 #include "host/host_config.h"
 #include "host/network_probe.h"
