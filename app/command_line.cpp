@@ -111,7 +111,9 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments)
 
 const char* ShortUsage()
 {
-    return "usage: spacemgm usage [--json] [--config FILE] [--timeout SECONDS]\n"
+    return "usage: spacemgm [window] [--png FILE] [--dump-controls FILE] [--lang L] [--scale S]\n"
+           "                [--select TYPE] [--timeout SECONDS] [--res DIR] [--config FILE]\n"
+           "       spacemgm usage [--json] [--config FILE] [--timeout SECONDS]\n"
            "       spacemgm delete messages|calls|harassment|backup DEVICE [--config FILE] [--timeout "
            "SECONDS]\n"
            "       spacemgm --help | --version\n";
@@ -119,11 +121,12 @@ const char* ShortUsage()
 
 std::string HelpText()
 {
-    return std::string(
-               "spacemgm: the cloud space management of the desktop client, run without its window.\n\n") +
+    return std::string("spacemgm: the cloud space management window of the desktop client.\n\n") +
            ShortUsage() +
            "\n"
            "Subcommands:\n"
+           "  window              (the default) show the space window; when it closes, print its\n"
+           "                      answer on one line: \"exit 1\" (closed) or \"exit 0 jump MESSAGE PARAM\"\n"
            "  usage               load the account once, as the window does, and print the quota, the\n"
            "                      five quota groups, the twelve categories and the backed-up devices\n"
            "  delete messages     delete all messages kept by the cloud backup service\n"
@@ -134,7 +137,29 @@ std::string HelpText()
            "  A deletion prints what the module returned, then loads the category again and says\n"
            "  whether the service still holds what was deleted.\n"
            "\n"
-           "Options:\n"
+           "Options of window:\n"
+           "  --png FILE          no real window: render offscreen once the load has ended and the\n"
+           "                      bar stands still, and write the picture\n"
+           "  --dump-controls FILE\n"
+           "                      the control tree as JSON (docs/control-dump.md); with a real\n"
+           "                      window, rewritten after each frame that changes it\n"
+           "  --lang L            a language of Res/lang: en-US, zh-CN, ru-RU, th-TH (default: the\n"
+           "                      configuration's)\n"
+           "  --scale S           1 to 4 (default 1)\n"
+           "  --select TYPE       with --png: click the row of a category, by number or name\n"
+           "                      (Gallery, CloudBackUp, Phone, ...)\n"
+           "  --timeout SECONDS   with --png: how long to wait for the load (default 30)\n"
+           "  --res DIR           the folder holding Res/ (else $SPACEMGM_RESOURCE_ROOT, else the\n"
+           "                      source tree)\n"
+           "\n"
+           "Exit status of window:\n"
+           "  0  the window closed (its answer is on stdout), or the files were written\n"
+           "  1  an output file cannot be written\n"
+           "  2  bad command line or host configuration, a skin, image or language file that\n"
+           "     cannot be used, a category with no row, or no display for a real window\n"
+           "  3  the load did not end within --timeout; the files show what the window showed\n"
+           "\n"
+           "Options of usage and delete:\n"
            "  --config FILE       the host configuration (else $SPACEMGM_CONFIG, else\n"
            "                      $XDG_CONFIG_HOME/spacemgm/spacemgm.json); see docs/host-config.md\n"
            "  --json              usage: print one JSON document instead of text, with the failed\n"
@@ -145,7 +170,7 @@ std::string HelpText()
            "\n"
            "Each exchange with a service that failed is listed on stderr, one line each.\n"
            "\n"
-           "Exit status:\n"
+           "Exit status of usage and delete:\n"
            "  0  done; for delete, the reload confirms the deletion\n"
            "  1  delete: the module reported that the deletion failed\n"
            "  2  bad command line or host configuration, or no service configured\n"

@@ -1,4 +1,5 @@
-// The stand-alone host's main job, without a window: `spacemgm usage` runs
+// The stand-alone host's main job. `spacemgm window`, or `spacemgm` alone,
+// shows the space window (app/window_command.h). `spacemgm usage` runs
 // one load the way the window's load thread does and prints what it found;
 // `spacemgm delete` runs one deletion and checks it with a reload. Every
 // exchange with a service is watched, so that a failed load is reported as
@@ -6,6 +7,7 @@
 // the exit codes among them.
 #include <cstdio>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,6 +20,7 @@
 #include "app/progress_text.h"
 #include "app/space_load.h"
 #include "app/verified_delete.h"
+#include "app/window_command.h"
 #include "host/backup_host_window.h"
 #include "host/exchange_observer.h"
 #include "host/host_config.h"
@@ -104,13 +107,54 @@ int RunDelete(CloudSpaceManagementViewModel& viewModel, const app::CommandLine& 
     return app::ExitCodeOf(outcome);
 }
 
+// The window's command line, "window" left out; null when the arguments ask
+// for another subcommand, --help or --version.
+std::optional<std::vector<std::string>> WindowArguments(const std::vector<std::string>& arguments)
+{
+    std::vector<std::string> words;
+    bool subcommandSeen = false;
+    for (size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& arg = arguments[i];
+        if (arg == "--help" || arg == "-h" || arg == "--version") {
+            return std::nullopt;
+        }
+        if (app::WindowOptionTakesValue(arg) && i + 1 < arguments.size()) {
+            words.push_back(arg);
+            words.push_back(arguments[++i]);
+        } else if (!subcommandSeen && !arg.empty() && arg[0] != '-') {
+            if (arg != "window") {
+                return std::nullopt;
+            }
+            subcommandSeen = true;
+        } else {
+            words.push_back(arg);
+        }
+    }
+    return words;
+}
+
+int RunWindow(const std::vector<std::string>& words)
+{
+    app::WindowOptions options;
+    options.resourceRoot = app::ResourceRoot();
+    if (auto problem = app::ParseWindowOptions(words, options)) {
+        std::fprintf(stderr, "spacemgm: %s\n%s", problem->c_str(), app::ShortUsage());
+        return app::kExitBadUsage;
+    }
+    return app::RunWindowCommand(options);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
+    const std::vector<std::string> arguments(argv + 1, argv + argc);
+    if (const auto windowWords = WindowArguments(arguments)) {
+        return RunWindow(*windowWords);
+    }
     app::CommandLine line;
     try {
-        line = app::ParseCommandLine(std::vector<std::string>(argv + 1, argv + argc));
+        line = app::ParseCommandLine(arguments);
     } catch (const app::UsageError& error) {
         std::fprintf(stderr, "spacemgm: %s\n%s", error.what(), app::ShortUsage());
         return app::kExitBadUsage;
