@@ -18,7 +18,8 @@ AttributeError::AttributeError(Kind kind, std::wstring name, std::wstring value)
 
 std::string SkinError::ToString() const
 {
-    return file + ":" + std::to_string(line) + ": " + message;
+    // Line 0: the file as a whole (it cannot be opened).
+    return line > 0 ? file + ":" + std::to_string(line) + ": " + message : file + ": " + message;
 }
 
 namespace attr {

@@ -43,7 +43,7 @@ struct SkinError
     std::wstring name;
     std::string message;
 
-    // "file:line: message" on one line, as printed to stderr.
+    // "file:line: message" on one line ("file: message" for line 0).
     std::string ToString() const;
 };
 

@@ -3,7 +3,6 @@
 #include <pugixml.hpp>
 
 #include <algorithm>
-#include <cstdio>
 #include <fstream>
 #include <sstream>
 #include <unordered_map>
@@ -325,7 +324,6 @@ CControlUI* CDialogBuilder::Create(STRINGorID xml, LPCTSTR, IDialogBuilderCallba
         std::ifstream in(path, std::ios::binary);
         if (!in) {
             m_error = SkinError{fileLabel, 0, source, "cannot open skin file"};
-            std::fprintf(stderr, "%s\n", m_error->ToString().c_str());
             return nullptr;
         }
         std::ostringstream content;
@@ -338,7 +336,6 @@ CControlUI* CDialogBuilder::Create(STRINGorID xml, LPCTSTR, IDialogBuilderCallba
     if (!parsed) {
         m_error = SkinError{fileLabel, LineOf(text, parsed.offset), L"",
                             std::string("XML: ") + parsed.description()};
-        std::fprintf(stderr, "%s\n", m_error->ToString().c_str());
         return nullptr;
     }
 
@@ -371,7 +368,6 @@ CControlUI* CDialogBuilder::Create(STRINGorID xml, LPCTSTR, IDialogBuilderCallba
         return result;
     } catch (const BuildFailure& failure) {
         m_error = SkinError{fileLabel, LineOf(text, failure.offset), failure.name, failure.message};
-        std::fprintf(stderr, "%s\n", m_error->ToString().c_str());
         return nullptr;
     }
 }

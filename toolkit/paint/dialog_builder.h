@@ -60,7 +60,9 @@ public:
     // checked to mean the same to DuiLib.
     void SetDuiLibOnly(bool duiLibOnly) { m_bDuiLibOnly = duiLibOnly; }
 
-    // The error of the last Create, if it failed.
+    // The error of the last Create, if it failed. The builder prints
+    // nothing: whoever builds a skin decides how to tell of a failure, so
+    // that a program says it once.
     const std::optional<SkinError>& GetError() const { return m_error; }
     IDialogBuilderCallback* GetCallback() const { return m_pCallback; }
 
