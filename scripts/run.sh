@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # The main job: builds the module and runs the `spacemgm` program.
-# Arguments are passed to the program ("usage" when there are none).
+# Arguments are passed to the program; with none it opens the space window.
+# Without a display it shows the usage report instead, and says how to see
+# the window.
 #
 # With no host configuration (no --config, no $SPACEMGM_CONFIG, no
 # ~/.config/spacemgm/spacemgm.json) it starts the local cloud emulator on a
@@ -12,11 +14,36 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/build.sh default spacemgm_app spacemgm-cloud >/dev/null
-[ $# -eq 0 ] && set -- usage
+
+# Runs the program; when it was asked for the window by default and there
+# is no display, runs the usage report instead.
+run_main() {
+  if [ "$window_by_default" != yes ]; then
+    ./build/bin/spacemgm "$@"
+    return
+  fi
+  local status=0 errors
+  errors="$(mktemp)"
+  ./build/bin/spacemgm window "$@" 2>"$errors" || status=$?
+  if [ "$status" -eq 2 ] && grep -q 'no display to show the window on' "$errors"; then
+    rm -f "$errors"
+    echo "run.sh: no display for the window, so here is the usage report; to see the window:" \
+      "bash scripts/run.sh window --png FILE, or xvfb-run bash scripts/run.sh" >&2
+    ./build/bin/spacemgm usage "$@"
+    return
+  fi
+  cat "$errors" >&2
+  rm -f "$errors"
+  return "$status"
+}
+
+window_by_default=no
+[ $# -eq 0 ] && window_by_default=yes
 
 user_config="${XDG_CONFIG_HOME:-$HOME/.config}/spacemgm/spacemgm.json"
 if [[ " $* " == *" --config "* || -n "${SPACEMGM_CONFIG:-}" || -f "$user_config" ]]; then
-  exec ./build/bin/spacemgm "$@"
+  run_main "$@"
+  exit
 fi
 
 runs="${XDG_STATE_HOME:-$HOME/.local/state}/spacemgm/runs"
@@ -41,6 +68,6 @@ for _ in $(seq 1 100); do
   sleep 0.1
 done
 status=0
-XDG_DATA_HOME="$run/data" ./build/bin/spacemgm "$@" --config "$work/spacemgm.json" || status=$?
+XDG_DATA_HOME="$run/data" run_main "$@" --config "$work/spacemgm.json" || status=$?
 echo "run.sh: logs of this run: $run (cloud.log, data/spacemgm/log/)" >&2
 exit "$status"
