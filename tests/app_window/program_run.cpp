@@ -1,9 +1,7 @@
 #include "program_run.h"
 
-#include <sys/wait.h>
-#include <unistd.h>
+#include "../app/program_run.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -11,41 +9,23 @@
 
 namespace app_window_test {
 
-namespace {
-
-std::string ShellQuoted(const std::string& word)
+ProgramResult RunProgram(const std::vector<std::string>& arguments,
+                         const std::map<std::string, std::string>& environment)
 {
-    std::string quoted = "'";
-    for (char c : word)
-        quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    return quoted + "'";
-}
-
-} // namespace
-
-ProgramResult RunProgram(const std::vector<std::string>& arguments, const std::string& environment)
-{
-    static int runs = 0;
-    const std::string folder = OutputFolder("runs");
-    const std::string stem = folder + "/run" + std::to_string(::getpid()) + "_" + std::to_string(++runs);
-    std::string command = environment + " " + ShellQuoted(SPACEMGM_PROGRAM_PATH);
-    for (const std::string& argument : arguments)
-        command += " " + ShellQuoted(argument);
-    command += " >" + ShellQuoted(stem + ".out") + " 2>" + ShellQuoted(stem + ".err") + " </dev/null";
-    const int status = std::system(command.c_str());
-    ProgramResult result;
-    result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    result.out = ReadWhole(stem + ".out");
-    result.err = ReadWhole(stem + ".err");
-    return result;
+    app_test::ProgramOptions options;
+    options.arguments = arguments;
+    options.environment = environment;
+    options.timeoutSeconds = 120;
+    const app_test::ProgramRun run = app_test::RunProgram(options);
+    return ProgramResult{run.exitCode, run.out, run.err};
 }
 
 ProgramResult RunWindow(const spacemgm_test::CloudEmulator& cloud, std::vector<std::string> arguments,
-                        const std::string& environment)
+                        std::map<std::string, std::string> environment)
 {
     arguments.insert(arguments.begin(), {"window", "--config", cloud.ConfigPath()});
-    return RunProgram(arguments,
-                      "XDG_DATA_HOME=" + ShellQuoted(cloud.WorkDir() + "/data") + " " + environment);
+    environment.emplace("XDG_DATA_HOME", cloud.WorkDir() + "/data");
+    return RunProgram(arguments, environment);
 }
 
 std::string OutputFolder(const std::string& name)

@@ -1,6 +1,7 @@
 #pragma once
-// Runs the `spacemgm` program as a child process, the way a person or a
-// script does, and collects its exit code, stdout and stderr.
+// Runs `spacemgm window` as a child process, the way a person or a script
+// does (through the program runner of tests/app), and reads what it wrote.
+#include <map>
 #include <string>
 #include <vector>
 
@@ -17,14 +18,14 @@ struct ProgramResult
     std::string err;
 };
 
-// `environment` is put in front of the command ("VAR=value ..."); each
-// argument is quoted for the shell.
-ProgramResult RunProgram(const std::vector<std::string>& arguments, const std::string& environment = "");
+// `environment` is set on top of the test's own; an empty value unsets.
+ProgramResult RunProgram(const std::vector<std::string>& arguments,
+                         const std::map<std::string, std::string>& environment = {});
 
 // `spacemgm window ARGUMENTS` against the emulator's account, with a data
 // folder of the emulator's.
 ProgramResult RunWindow(const spacemgm_test::CloudEmulator& cloud, std::vector<std::string> arguments,
-                        const std::string& environment = "");
+                        std::map<std::string, std::string> environment = {});
 
 // A fresh folder under build/test-output/app_window/.
 std::string OutputFolder(const std::string& name);

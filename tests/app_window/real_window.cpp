@@ -130,7 +130,10 @@ bool RealWindow::Click(const Json::Value& control)
 {
     const int x = left_ + control["x"].asInt() + control["width"].asInt() / 2;
     const int y = top_ + control["y"].asInt() + control["height"].asInt() / 2;
-    return Run("xdotool mousemove " + std::to_string(x) + " " + std::to_string(y) + " click 1") == 0;
+    // The pointer enters the window before the button goes down: a press
+    // that arrives with the pointer's first entry can be lost.
+    return Run("xdotool mousemove " + std::to_string(x) + " " + std::to_string(y) + " sleep 0.3 click 1") ==
+           0;
 }
 
 bool RealWindow::Capture(uitest::Screen& screen, const std::string& pngName)

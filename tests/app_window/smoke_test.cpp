@@ -156,5 +156,9 @@ TEST(WindowSmoke, TheCloseButtonEndsTheProgramAtOnceWhileALoadIsBlocked)
     // The quota request is held by the emulator: the load cannot end.
     ASSERT_TRUE(window.Click(*FindControl(loading["controls"], "btn_close")));
     // The hang lasts two minutes; the program must be gone well before.
-    EXPECT_EQ(window.WaitForExit(20000), "exit 1\n");
+    const std::string answer = window.WaitForExit(20000);
+    EXPECT_EQ(answer, "exit 1\n");
+    uitest::Screen screen;
+    if (answer.empty() && window.Capture(screen, "still-open.png"))
+        ADD_FAILURE() << "the window is still open: " << window.Folder() << "/still-open.png";
 }

@@ -117,7 +117,7 @@ TEST(WindowProgram, WithoutASubcommandTheProgramRunsTheWindow)
     CloudEmulator cloud;
     const Files files = FreshFiles("no-subcommand");
     const ProgramResult run = app_window_test::RunProgram(
-        {"--png", files.png, "--config", cloud.ConfigPath()}, "XDG_DATA_HOME='" + cloud.WorkDir() + "/data'");
+        {"--png", files.png, "--config", cloud.ConfigPath()}, {{"XDG_DATA_HOME", cloud.WorkDir() + "/data"}});
     EXPECT_EQ(run.exitCode, 0) << run.err;
     EXPECT_TRUE(std::filesystem::exists(files.png));
 }
@@ -299,7 +299,7 @@ TEST(WindowProgram, WithoutADisplayTheWindowSaysSoInOneLineAndExitsTwo)
 {
     CloudEmulator cloud;
     const ProgramResult run =
-        RunWindow(cloud, {}, "env -u DISPLAY -u WAYLAND_DISPLAY -u SPACEMGM_TOOLKIT_BACKEND");
+        RunWindow(cloud, {}, {{"DISPLAY", ""}, {"WAYLAND_DISPLAY", ""}, {"SPACEMGM_TOOLKIT_BACKEND", ""}});
     EXPECT_EQ(run.exitCode, 2);
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(Lines(run.err), 1u) << run.err;
@@ -355,8 +355,8 @@ TEST(WindowProgram, HelpDocumentsTheWindowAndItsExitCodes)
 {
     const ProgramResult run = app_window_test::RunProgram({"--help"});
     EXPECT_EQ(run.exitCode, 0);
-    for (const char* part :
-         {"spacemgm [window]", "--png FILE", "--dump-controls FILE", "--select TYPE", "--timeout SECONDS",
-          "--res DIR", "\"exit 0 jump MESSAGE PARAM\"", "Exit codes", "3 the load"})
+    for (const char* part : {"spacemgm [window]", "--png FILE", "--dump-controls FILE", "--select TYPE",
+                             "--timeout SECONDS", "--res DIR", "\"exit 0 jump MESSAGE PARAM\"",
+                             "Exit status of window", "3  the load did not end within --timeout"})
         EXPECT_NE(run.out.find(part), std::string::npos) << part << " in\n" << run.out;
 }
