@@ -87,9 +87,18 @@ bool RealWindow::WaitForWindow()
     }
     if (display_.empty() || pid_.empty())
         return false;
+    const std::string found = folder_ + "/window-id";
+    if (Run("timeout 30 xdotool search --sync --limit 1 --pid " + pid_ + " --name SpaceMgmWnd > '" + found +
+            "'") != 0)
+        return false;
+    windowId_ = Trimmed(ReadWhole(found));
+    return !windowId_.empty() && ReadGeometry();
+}
+
+bool RealWindow::ReadGeometry()
+{
     const std::string geometry = folder_ + "/geometry";
-    if (Run("timeout 30 xdotool search --sync --limit 1 --pid " + pid_ +
-            " --name SpaceMgmWnd getwindowgeometry --shell > '" + geometry + "'") != 0)
+    if (Run("xdotool getwindowgeometry --shell " + windowId_ + " > '" + geometry + "'") != 0)
         return false;
     std::istringstream lines(ReadWhole(geometry));
     std::string line;
@@ -128,6 +137,9 @@ Json::Value RealWindow::WaitUntilStill(int timeoutMs)
 
 bool RealWindow::Click(const Json::Value& control)
 {
+    // The window centres itself again when a load starts: where it is now.
+    if (!ReadGeometry())
+        return false;
     const int x = left_ + control["x"].asInt() + control["width"].asInt() / 2;
     const int y = top_ + control["y"].asInt() + control["height"].asInt() / 2;
     // The pointer enters the window before the button goes down: a press
@@ -140,7 +152,7 @@ bool RealWindow::Capture(uitest::Screen& screen, const std::string& pngName)
 {
     const std::string xwd = folder_ + "/screen.xwd";
     std::filesystem::remove(xwd);
-    if (Run("xwd -root -silent > '" + xwd + "'") != 0 || !uitest::ReadXwd(xwd, screen))
+    if (!ReadGeometry() || Run("xwd -root -silent > '" + xwd + "'") != 0 || !uitest::ReadXwd(xwd, screen))
         return false;
     uitest::WritePng(screen, folder_ + "/" + pngName);
     return true;

@@ -34,6 +34,7 @@ public:
     Json::Value WaitUntilStill(int timeoutMs = 30000);
     // Clicks at the centre of a control of the dump.
     bool Click(const Json::Value& control);
+    // Also reads where the window is, for left() and top().
     bool Capture(uitest::Screen& screen, const std::string& pngName);
     // Waits for the program to end; its stdout, or "" after `timeoutMs`.
     std::string WaitForExit(int timeoutMs = 15000);
@@ -44,10 +45,13 @@ public:
 
 private:
     int Run(const std::string& command) const;
+    // The window's position on the screen now.
+    bool ReadGeometry();
 
     std::string folder_;
     std::string display_;
     std::string pid_;
+    std::string windowId_;
     int left_ = 0;
     int top_ = 0;
 };

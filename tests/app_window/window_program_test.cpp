@@ -267,6 +267,20 @@ TEST(WindowProgram, AnUnknownLanguageIsRefusedListingTheLanguagesThereAre)
               "spacemgm: --lang: unknown language \"de-DE\"; there are en-US, ru-RU, th-TH, zh-CN\n");
 }
 
+TEST(WindowProgram, AnUnknownLanguageInTheConfigurationIsNamedAsTheConfigurations)
+{
+    CloudEmulator cloud;
+    Json::Value config = ReadDump(cloud.ConfigPath());
+    config["language"] = "xx-XX";
+    const std::string path = cloud.WorkDir() + "/language.json";
+    std::ofstream(path) << config.toStyledString();
+    const ProgramResult run = RunWindow(cloud, {"--png", FreshFiles("lang-config").png, "--config", path});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.err,
+              "spacemgm: the configuration's \"language\": unknown language \"xx-XX\"; there are en-US, "
+              "ru-RU, th-TH, zh-CN\n");
+}
+
 TEST(WindowProgram, BadScaleSelectAndTimeoutAreRefusedWithExitTwo)
 {
     CloudEmulator cloud;
