@@ -18,6 +18,7 @@
 #include "app/failure_lines.h"
 #include "app/progress_line.h"
 #include "app/progress_text.h"
+#include "app/service_check.h"
 #include "app/space_load.h"
 #include "app/verified_delete.h"
 #include "app/window_command.h"
@@ -27,18 +28,6 @@
 #include "space_data/cloud_space_view_model.h"
 
 namespace {
-
-bool AnyServiceConfigured(const host::ServiceUrls& urls)
-{
-    for (const std::string* url :
-         {&urls.nsp, &urls.basic, &urls.portal, &urls.cloudPhoto, &urls.cbs, &urls.pimds, &urls.familyShare,
-          &urls.cloudSyncDrive, &urls.accountQuota, &urls.omConfig}) {
-        if (!url->empty()) {
-            return true;
-        }
-    }
-    return false;
-}
 
 // Reads the configuration in force; returns false after saying why it
 // cannot be used.
@@ -52,14 +41,8 @@ bool SetUpConfiguration(const app::CommandLine& line)
         std::fprintf(stderr, "spacemgm: %s\n", error.what());
         return false;
     }
-    if (!AnyServiceConfigured(config.services)) {
-        const std::string where = config.sourcePath.empty() ? std::string("no host configuration was found")
-                                                            : config.sourcePath + " names none";
-        std::fprintf(
-            stderr,
-            "spacemgm: no service is configured (%s). Give one with --config FILE, $SPACEMGM_CONFIG or "
-            "~/.config/spacemgm/spacemgm.json, or let scripts/run.sh start the local emulator.\n",
-            where.c_str());
+    if (const auto problem = app::NoServiceProblem(config)) {
+        std::fprintf(stderr, "spacemgm: %s\n", problem->c_str());
         return false;
     }
     if (line.timeoutSeconds) {

@@ -7,8 +7,12 @@
 #include <string>
 
 #include "app/cbs_backup_deleter.h"
+#include "app/exchange_log.h"
+#include "app/failure_lines.h"
+#include "app/service_check.h"
 #include "app/window_headless.h"
 #include "host/backup_host_window.h"
+#include "host/exchange_observer.h"
 #include "host/host_config.h"
 #include "host/network_probe.h"
 #include "space_data/cloud_space_view_model.h"
@@ -39,6 +43,8 @@ std::optional<std::string> PrepareProcess(const WindowOptions& options, host::Ho
     } catch (const host::ConfigError& error) {
         return std::string(error.what());
     }
+    if (auto problem = NoServiceProblem(config))
+        return problem;
     host::SetCurrentHostConfig(config);
     const std::string language = options.language.empty() ? config.language : options.language;
     if (auto problem = CheckLanguageChoice(options.resourceRoot, language))
@@ -68,6 +74,8 @@ int RunInWindow(SpaceMgmWnd& window, const WindowOptions& options)
 // its statics; the program ends at once instead, as a closed window should.
 int ShowWindow(const WindowOptions& options, const host::HostConfig& config)
 {
+    ExchangeLog log;
+    const host::ScopedExchangeObserver watch(log);
     host::ScopedNetworkProbe networkProbe(config);
     host::BackupHostWindow backupHost(DeleteDeviceBackup);
     auto viewModel = std::make_shared<CloudSpaceManagementViewModel>();
@@ -79,6 +87,10 @@ int ShowWindow(const WindowOptions& options, const host::HostConfig& config)
         return Refuse(error.empty() ? "cannot create the window" : error);
     }
     const int code = options.png.empty() ? RunInWindow(window, options) : RunHeadless(window, options);
+    // The window shows a load that reached no service as an empty account;
+    // the exchanges that failed are named here, as `usage` names them.
+    for (const std::string& line : FailureLines(log.Failures()))
+        std::fprintf(stderr, "%s\n", line.c_str());
     if (!LoadSequence::Instance().Idle()) {
         std::fflush(stdout);
         std::fflush(stderr);

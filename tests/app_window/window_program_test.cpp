@@ -162,8 +162,11 @@ TEST(WindowProgram, SelectingACategoryWithNoRowNamesItAndTheRowsThereAre)
     const Files files = FreshFiles("select-missing");
     const ProgramResult run = RunWindow(cloud, {"--png", files.png, "--select", "CloudBackUp"});
     EXPECT_EQ(run.exitCode, 2);
-    EXPECT_EQ(Lines(run.err), 1u) << run.err;
+    // The refusal, then the exchange that failed and took the row away.
+    EXPECT_EQ(Lines(run.err), 2u) << run.err;
     EXPECT_EQ(run.err.rfind("spacemgm: --select: no row for CloudBackUp (5); the rows are ", 0), 0u)
+        << run.err;
+    EXPECT_NE(run.err.find("\ncloud backup: /CloudBackup/ClientServlet: empty reply\n"), std::string::npos)
         << run.err;
     for (const char* row : {"Gallery", "CloudDisk", "Recorder", "HarassmentInterception"})
         EXPECT_NE(run.err.find(row), std::string::npos) << row << " in " << run.err;
@@ -197,6 +200,22 @@ TEST(WindowProgram, NoEmulatorWithTheNetworkUpGivesTheEmptyPage)
     const ProgramResult run = RunWindow(cloud, {"--png", files.png, "--dump-controls", files.dump});
     ASSERT_EQ(run.exitCode, 0) << run.err;
     EXPECT_EQ(Selected(ReadDump(files.dump), "tab_switch"), kPageEmpty);
+    // The page cannot tell an empty account from a service out of reach; the
+    // program names the exchanges that failed.
+    EXPECT_NE(run.err.find("account quota: "), std::string::npos) << run.err;
+}
+
+TEST(WindowProgram, AConfigurationWithNoServiceIsRefusedInsteadOfShowingAnEmptyAccount)
+{
+    CloudEmulator cloud;
+    const std::string none = cloud.WorkDir() + "/no-services.json";
+    std::ofstream(none) << "{}";
+    const Files files = FreshFiles("no-services");
+    const ProgramResult run = RunWindow(cloud, {"--png", files.png, "--config", none});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_NE(run.err.find("spacemgm: no service is configured (" + none + " names none)"), std::string::npos)
+        << run.err;
+    EXPECT_FALSE(std::filesystem::exists(files.png));
 }
 
 TEST(WindowProgram, WithoutTheNetworkTheLoadEndsOnTheFailedPage)
