@@ -77,6 +77,8 @@ CControlUI* SpaceMgmWnd::CreateControl(LPCTSTR pstrClass)
 
 std::string SpaceMgmWnd::GetCreateError() const
 {
+    if (!GetSurfaceError().empty())
+        return GetSurfaceError();
     if (GetSkinError())
         return GetSkinError()->ToString();
     return m_resourceError.value_or("");

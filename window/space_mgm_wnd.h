@@ -71,7 +71,8 @@ public:
     bool IsBarAnimating() const { return m_barTimerSet; }
 
     // Why Create returned null: the skin, an image or a language file that
-    // could not be used, as one line naming the file. Empty otherwise.
+    // could not be used, as one line naming the file, or no window could be
+    // opened (SDL2 not loaded). Empty otherwise.
     std::string GetCreateError() const;
 
 protected:

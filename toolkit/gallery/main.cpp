@@ -124,6 +124,11 @@ int main(int argc, char** argv)
 
     gallery::GalleryWindow window(options.rows);
     if (window.Create(nullptr, L"Toolkit gallery", 0, 0, 0, 0, 0, 0) == nullptr) {
+        if (!window.GetSurfaceError().empty()) {
+            // As with no display at all: there is nowhere to show the window.
+            std::fprintf(stderr, "toolkit-gallery: %s\n", window.GetSurfaceError().c_str());
+            return 2;
+        }
         std::fprintf(stderr, "toolkit-gallery: %s\n",
                      window.GetSkinError() ? window.GetSkinError()->ToString().c_str()
                                            : "cannot create the window");

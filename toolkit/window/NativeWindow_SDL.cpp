@@ -3,9 +3,9 @@
 // message queue's external event source, translated to window messages and
 // posted to the window they belong to, so input takes the same road as on
 // Windows. SDL has one event queue per process: all SDL windows should live
-// on one thread.
+// on one thread. SDL's functions come from the table of sdl_library.h,
+// loaded when the first SDL surface is asked for.
 
-#include <SDL.h>
 #include <cairo.h>
 
 #include <map>
@@ -15,10 +15,18 @@
 #include "toolkit/win32/message_queue.h"
 #include "toolkit/window/canvas.h"
 #include "toolkit/window/native_surface.h"
+#include "toolkit/window/sdl_library.h"
 
 namespace DuiLib {
 
 namespace {
+
+// SDL, for code that runs only once an SDL surface exists, so once the
+// library has loaded.
+const SdlFunctions& Sdl()
+{
+    return *LoadSdl();
+}
 
 std::mutex g_windowsMutex;
 std::map<Uint32, HWND>& SdlWindows()
@@ -34,11 +42,11 @@ bool StartSdlVideo()
     static std::once_flag once;
     static bool started = false;
     std::call_once(once, [] {
-        SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-        SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
-        started = SDL_InitSubSystem(SDL_INIT_VIDEO) == 0;
+        Sdl().SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+        Sdl().SDL_SetHint(SDL_HINT_VIDEO_X11_NET_WM_BYPASS_COMPOSITOR, "0");
+        started = Sdl().SDL_InitSubSystem(SDL_INIT_VIDEO) == 0;
         if (started)
-            g_wakeEvent = SDL_RegisterEvents(1);
+            g_wakeEvent = Sdl().SDL_RegisterEvents(1);
     });
     return started;
 }
@@ -162,13 +170,13 @@ void WaitForSdl(DWORD timeoutMs)
     SDL_Event ev;
     int got = 0;
     if (timeoutMs == INFINITE) {
-        got = SDL_WaitEvent(&ev);
+        got = Sdl().SDL_WaitEvent(&ev);
     } else {
-        got = SDL_WaitEventTimeout(&ev, static_cast<int>(timeoutMs));
+        got = Sdl().SDL_WaitEventTimeout(&ev, static_cast<int>(timeoutMs));
     }
     while (got) {
         Translate(ev);
-        got = SDL_PollEvent(&ev);
+        got = Sdl().SDL_PollEvent(&ev);
     }
 }
 
@@ -176,7 +184,7 @@ void WakeSdl()
 {
     SDL_Event ev{};
     ev.type = g_wakeEvent;
-    SDL_PushEvent(&ev);
+    Sdl().SDL_PushEvent(&ev);
 }
 
 void InstallEventSourceOnThisThread()
@@ -195,21 +203,21 @@ public:
         : m_hwnd(hwnd), m_window(window), m_renderer(renderer)
     {
         std::lock_guard<std::mutex> lock(g_windowsMutex);
-        SdlWindows()[SDL_GetWindowID(m_window)] = m_hwnd;
+        SdlWindows()[Sdl().SDL_GetWindowID(m_window)] = m_hwnd;
     }
 
     ~SdlSurface() override
     {
         {
             std::lock_guard<std::mutex> lock(g_windowsMutex);
-            SdlWindows().erase(SDL_GetWindowID(m_window));
+            SdlWindows().erase(Sdl().SDL_GetWindowID(m_window));
         }
         if (m_canvas)
             cairo_surface_destroy(m_canvas);
         if (m_texture)
-            SDL_DestroyTexture(m_texture);
-        SDL_DestroyRenderer(m_renderer);
-        SDL_DestroyWindow(m_window);
+            Sdl().SDL_DestroyTexture(m_texture);
+        Sdl().SDL_DestroyRenderer(m_renderer);
+        Sdl().SDL_DestroyWindow(m_window);
     }
 
     cairo_t* BeginPaint(int width, int height) override
@@ -220,10 +228,10 @@ public:
         cairo_t* cr = BeginCanvasFrame(m_canvas, width, height, &remade);
         if (remade) {
             if (m_texture)
-                SDL_DestroyTexture(m_texture);
-            m_texture = SDL_CreateTexture(m_renderer, SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
-                                          width, height);
-            SDL_SetTextureBlendMode(m_texture, SDL_BLENDMODE_BLEND);
+                Sdl().SDL_DestroyTexture(m_texture);
+            m_texture = Sdl().SDL_CreateTexture(m_renderer, SDL_PIXELFORMAT_ARGB8888,
+                                                SDL_TEXTUREACCESS_STREAMING, width, height);
+            Sdl().SDL_SetTextureBlendMode(m_texture, SDL_BLENDMODE_BLEND);
         }
         return cr;
     }
@@ -234,29 +242,29 @@ public:
         cairo_surface_flush(m_canvas);
         if (m_texture == nullptr)
             return;
-        SDL_UpdateTexture(m_texture, nullptr, cairo_image_surface_get_data(m_canvas),
-                          cairo_image_surface_get_stride(m_canvas));
-        SDL_SetRenderDrawColor(m_renderer, 255, 255, 255, 255);
-        SDL_RenderClear(m_renderer);
-        SDL_RenderCopy(m_renderer, m_texture, nullptr, nullptr);
-        SDL_RenderPresent(m_renderer);
+        Sdl().SDL_UpdateTexture(m_texture, nullptr, cairo_image_surface_get_data(m_canvas),
+                                cairo_image_surface_get_stride(m_canvas));
+        Sdl().SDL_SetRenderDrawColor(m_renderer, 255, 255, 255, 255);
+        Sdl().SDL_RenderClear(m_renderer);
+        Sdl().SDL_RenderCopy(m_renderer, m_texture, nullptr, nullptr);
+        Sdl().SDL_RenderPresent(m_renderer);
     }
 
     void SetGeometry(const RECT& rect) override
     {
-        SDL_SetWindowSize(m_window, std::max<int>(1, rect.right - rect.left),
-                          std::max<int>(1, rect.bottom - rect.top));
-        SDL_SetWindowPosition(m_window, rect.left, rect.top);
+        Sdl().SDL_SetWindowSize(m_window, std::max<int>(1, rect.right - rect.left),
+                                std::max<int>(1, rect.bottom - rect.top));
+        Sdl().SDL_SetWindowPosition(m_window, rect.left, rect.top);
     }
 
     void Show(bool show) override
     {
         m_shown = show;
         if (show) {
-            SDL_ShowWindow(m_window);
-            SDL_RaiseWindow(m_window);
+            Sdl().SDL_ShowWindow(m_window);
+            Sdl().SDL_RaiseWindow(m_window);
         } else {
-            SDL_HideWindow(m_window);
+            Sdl().SDL_HideWindow(m_window);
         }
     }
 
@@ -264,14 +272,14 @@ public:
 
     void SetTitle(const std::wstring& title) override
     {
-        SDL_SetWindowTitle(m_window, attr::Narrow(title).c_str());
+        Sdl().SDL_SetWindowTitle(m_window, attr::Narrow(title).c_str());
     }
 
     SIZE ScreenSize() const override
     {
         SDL_Rect bounds{0, 0, 1920, 1080};
-        const int display = SDL_GetWindowDisplayIndex(m_window);
-        SDL_GetDisplayUsableBounds(display < 0 ? 0 : display, &bounds);
+        const int display = Sdl().SDL_GetWindowDisplayIndex(m_window);
+        Sdl().SDL_GetDisplayUsableBounds(display < 0 ? 0 : display, &bounds);
         return SIZE{bounds.w, bounds.h};
     }
 
@@ -290,17 +298,17 @@ private:
 
 std::unique_ptr<NativeSurface> CreateSdlSurface(HWND hWnd)
 {
-    if (!StartSdlVideo())
+    if (LoadSdl() == nullptr || !StartSdlVideo())
         return nullptr;
     SDL_Window* window =
-        SDL_CreateWindow("", SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED, 1, 1, SDL_WINDOW_HIDDEN);
+        Sdl().SDL_CreateWindow("", SDL_WINDOWPOS_UNDEFINED, SDL_WINDOWPOS_UNDEFINED, 1, 1, SDL_WINDOW_HIDDEN);
     if (window == nullptr)
         return nullptr;
-    SDL_Renderer* renderer = SDL_CreateRenderer(window, -1, 0);
+    SDL_Renderer* renderer = Sdl().SDL_CreateRenderer(window, -1, 0);
     if (renderer == nullptr)
-        renderer = SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE);
+        renderer = Sdl().SDL_CreateRenderer(window, -1, SDL_RENDERER_SOFTWARE);
     if (renderer == nullptr) {
-        SDL_DestroyWindow(window);
+        Sdl().SDL_DestroyWindow(window);
         return nullptr;
     }
     InstallEventSourceOnThisThread();

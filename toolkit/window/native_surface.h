@@ -41,12 +41,14 @@ public:
 };
 
 // Makes a surface for the window `hWnd`; falls back to offscreen when SDL
-// cannot open a window.
-std::unique_ptr<NativeSurface> CreateNativeSurface(HWND hWnd, SurfaceKind kind);
+// video cannot open a window. Null when an SDL surface is asked for and the
+// SDL2 library cannot be loaded; `error` then names the library and the
+// loader's reason. An offscreen surface never loads SDL2.
+std::unique_ptr<NativeSurface> CreateNativeSurface(HWND hWnd, SurfaceKind kind, std::string* error = nullptr);
 
 // Offscreen surfaces: a canvas kept in memory.
 std::unique_ptr<NativeSurface> CreateOffscreenSurface();
-// SDL surfaces: null when SDL video is not available.
+// SDL surfaces: null when SDL2 or its video is not available.
 std::unique_ptr<NativeSurface> CreateSdlSurface(HWND hWnd);
 
 } // namespace DuiLib

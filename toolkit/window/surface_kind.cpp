@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "toolkit/window/native_surface.h"
+#include "toolkit/window/sdl_library.h"
 
 namespace DuiLib {
 
@@ -37,9 +38,15 @@ SurfaceKind DefaultSurfaceKind()
     return kind < 0 ? FromEnvironment() : static_cast<SurfaceKind>(kind);
 }
 
-std::unique_ptr<NativeSurface> CreateNativeSurface(HWND hWnd, SurfaceKind kind)
+std::unique_ptr<NativeSurface> CreateNativeSurface(HWND hWnd, SurfaceKind kind, std::string* error)
 {
     if (kind == SurfaceKind::Sdl) {
+        std::string loadError;
+        if (LoadSdl(&loadError) == nullptr) {
+            if (error != nullptr)
+                *error = "cannot open a window: " + loadError;
+            return nullptr;
+        }
         if (auto surface = CreateSdlSurface(hWnd))
             return surface;
     }

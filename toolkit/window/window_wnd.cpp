@@ -73,7 +73,10 @@ LRESULT CWindowWnd::Dispatch(HWND hWnd, UINT uMsg, WPARAM wParam, LPARAM lParam)
         // window's own WM_CREATE work so that it can size itself.
         SetHandle(hWnd);
         ThreadWindows()[hWnd] = this;
-        m_surface = CreateNativeSurface(hWnd, DefaultSurfaceKind());
+        m_surfaceError.clear();
+        m_surface = CreateNativeSurface(hWnd, DefaultSurfaceKind(), &m_surfaceError);
+        if (!m_surface)
+            return -1;
         m_surface->SetTitle(m_sTitle.str());
         m_surface->SetGeometry(m_rcWindow);
     }

@@ -9,6 +9,7 @@
 
 #include <atomic>
 #include <memory>
+#include <string>
 
 #include "platform/win32.h"
 #include "toolkit/core/dui_string.h"
@@ -59,6 +60,9 @@ public:
     RECT GetWindowRect() const { return m_rcWindow; }
     bool IsShown() const;
     NativeSurface* GetSurface() const { return m_surface.get(); }
+    // Why the last Create failed for want of a surface (SDL2 could not be
+    // loaded), or empty.
+    const std::string& GetSurfaceError() const { return m_surfaceError; }
 
     // Safe from any thread, as the Win32 calls are.
     LRESULT SendMessage(UINT uMsg, WPARAM wParam = 0, LPARAM lParam = 0);
@@ -91,6 +95,7 @@ private:
     std::atomic<HWND> m_hWndShared{nullptr};
     RECT m_rcWindow{0, 0, 0, 0};
     std::unique_ptr<NativeSurface> m_surface;
+    std::string m_surfaceError;
     std::shared_ptr<ModalState> m_modal;
     CDuiString m_sTitle;
 };
