@@ -26,12 +26,14 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <map>
 #include <sstream>
 #include <vector>
 
+#include "bench/support/interleaved_pair.h"
 #include "cloud_emulator.h"
 #include "window/space_window_types.h"
 
@@ -113,7 +115,8 @@ void ReadReport(int fd, const std::string& lastKey, ProbeRun& run)
     }
 }
 
-ProbeRun RunProbe(const CloudEmulator& cloud, const std::string& networkMode, int idleMs)
+ProbeRun RunProbe(const CloudEmulator& cloud, const std::string& networkMode, int idleMs,
+                  const std::string& program = WINDOW_START_PROBE)
 {
     ProbeRun run;
     const std::string workDir = cloud.WorkDir() + "/probe";
@@ -126,7 +129,6 @@ ProbeRun RunProbe(const CloudEmulator& cloud, const std::string& networkMode, in
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, fds[1], kReportFd);
-    const std::string program = WINDOW_START_PROBE;
     std::vector<std::string> args = {
         program,     cloud.ConfigPath(),    workDir, SPACEMGM_SOURCE_DIR "/", std::to_string(kReportFd),
         networkMode, std::to_string(idleMs)};
@@ -193,6 +195,38 @@ void BM_ProcessStartToFirstFrame(benchmark::State& state)
     state.counters["process_cpu_ms"] = processCpu / n;
 }
 BENCHMARK(BM_ProcessStartToFirstFrame)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(10);
+
+// BM_ProcessStartAgainstBaseline: the same span, spawn to the first painted
+// frame, for this build's probe and for another build's, in turns, so that
+// a change to what a process start costs is measured against the load of
+// the moment. WINDOW_START_BASELINE_PROBE names the other probe (built from
+// the commit to compare with, in a build folder of its own); without it the
+// benchmark is skipped. Counters: baseline_us, this_build_us and
+// this_build_vs_baseline.
+void BM_ProcessStartAgainstBaseline(benchmark::State& state)
+{
+    const char* baseline = std::getenv("WINDOW_START_BASELINE_PROBE");
+    if (baseline == nullptr || *baseline == 0) {
+        state.SkipWithError("set WINDOW_START_BASELINE_PROBE to another build's window_start_probe");
+        return;
+    }
+    CloudEmulator cloud;
+    const auto firstFrameSeconds = [&cloud](const std::string& program) {
+        const ProbeRun run = RunProbe(cloud, "online", 0, program);
+        if (!run.error.empty() || static_cast<int>(run.Number("first_paint", 1)) != PageLoading)
+            return -1.0;
+        return run.MsAfterSpawn("first_paint") / 1000.0;
+    };
+    // Both programs' files are read from disk once before the timed turns.
+    if (firstFrameSeconds(baseline) < 0 || firstFrameSeconds(WINDOW_START_PROBE) < 0) {
+        state.SkipWithError("a probe did not reach its first frame");
+        return;
+    }
+    bench_support::RunInterleavedMeasured(
+        state, "baseline", [&] { return firstFrameSeconds(baseline); }, "this_build",
+        [&] { return firstFrameSeconds(WINDOW_START_PROBE); });
+}
+BENCHMARK(BM_ProcessStartAgainstBaseline)->UseManualTime()->Unit(benchmark::kMillisecond)->Iterations(10);
 
 void BM_OpenWindowIdle(benchmark::State& state, const std::string& networkMode)
 {
