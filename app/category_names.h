@@ -3,7 +3,7 @@
 //
 // The program reads the JSON itself rather than through the toolkit's
 // CResourceManager: that class lives in spacemgm_toolkit, which brings
-// cairo, pango, librsvg and SDL2 with it, which the support library and the
+// cairo, pango and librsvg with it, which the support library and the
 // tests that share it do not need.
 // The keys are those of the window's row templates, so both show the same
 // names; a key the language lacks falls back to en-US, as in the toolkit.
