@@ -6,7 +6,11 @@
 #include <string>
 #include <vector>
 
+#include "utilities/text_lines.h"
+
 namespace app_test {
+
+using ::Lines;
 
 struct ProgramRun
 {
@@ -28,7 +32,5 @@ struct ProgramOptions
 };
 
 ProgramRun RunProgram(const ProgramOptions& options);
-
-std::vector<std::string> Lines(const std::string& text);
 
 } // namespace app_test

@@ -9,6 +9,7 @@
 #include <json/json.h>
 
 #include "app/usage_report.h"
+#include "utilities/text_lines.h"
 
 namespace {
 
@@ -41,16 +42,6 @@ app::UsageReport Report()
     report.items = {Item(CloudBackUp, 1024, "1"), Item(Message, 0, "12"), Item(Gallery, 2048, "")};
     report.backups = {Device("bk-1", "Phone")};
     return report;
-}
-
-std::vector<std::string> Lines(const std::string& text)
-{
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);) {
-        lines.push_back(line);
-    }
-    return lines;
 }
 
 const app::CategoryTexts& English()

@@ -15,6 +15,7 @@
 #include "host/logger_sink.h"
 #include "platform/logger.h"
 #include "utilities/temp_folder.h"
+#include "utilities/text_lines.h"
 
 namespace {
 
@@ -41,16 +42,6 @@ public:
 private:
     TempFolder folder_;
 };
-
-std::vector<std::string> Lines(const std::string& text)
-{
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);) {
-        lines.push_back(line);
-    }
-    return lines;
-}
 
 } // namespace
 

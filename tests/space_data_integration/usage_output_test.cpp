@@ -15,6 +15,7 @@
 #include <json/json.h>
 
 #include "cloud_emulator.h"
+#include "utilities/text_lines.h"
 
 namespace {
 
@@ -44,16 +45,6 @@ ProgramRun RunUsage(const CloudEmulator& cloud, const std::string& arguments)
     const int status = pclose(pipe);
     run.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     return run;
-}
-
-std::vector<std::string> Lines(const std::string& text)
-{
-    std::vector<std::string> lines;
-    std::istringstream in(text);
-    for (std::string line; std::getline(in, line);) {
-        lines.push_back(line);
-    }
-    return lines;
 }
 
 } // namespace
